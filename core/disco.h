@@ -1,0 +1,69 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "core/testo.h"
+
+using Percorso = std::filesystem::path;
+
+// The one place where a text of the firm becomes a path, and back (for messages).
+Percorso In_Percorso(Vista testo);
+Testo Testo_Percorso(const Percorso& percorso);
+// `cartella` and `nome` joined with exactly one separator, whether or not the folder ends with one.
+Percorso Unisci_Percorso(const Percorso& cartella, Vista nome);
+Testo Nome_File(const Percorso& percorso);  // what stands behind the last separator, either slash
+
+// The one door to the disk. A name that isn't there as it is spelled is looked for ignoring the case of ASCII
+// letters, since folders come over from machines that do not care about it; a name that is written keeps the
+// case in which it was found. Errors are values of errno, 0 for success.
+class Disco {
+ public:
+  // Tests put a fault here: the errno that a write to that path shall fail with, or 0.
+  std::function<int(const Percorso&)> guasto;
+
+  bool Esiste_File(const Percorso& percorso) const;  // an existing regular file; false on any error
+  bool Esiste_Cartella(const Percorso& percorso) const;
+  // Where the file or folder stands under another letter case of its last name; else the path as it is.
+  Percorso Trova(const Percorso& percorso) const;
+
+  // The whole file, or nothing when it is missing, no regular file, or can't be read; `errore` then says why.
+  std::optional<Testo> Leggi(const Percorso& percorso, int* errore = nullptr) const;
+
+  // Replaces the whole file: a sibling temporary file, written, flushed to disk, renamed over the target, the
+  // folder flushed. The file is at any moment the last good one or the new one. A file that already holds
+  // exactly these bytes is left alone. Rights and links of an existing file are kept.
+  int Sostituisci(const Percorso& percorso, Vista contenuto) const;
+  int Aggiungi(const Percorso& percorso, Vista contenuto) const;  // append, made if missing
+  // In place, so that the old bytes are gone from the disk; made if missing.
+  int Sovrascrivi(const Percorso& percorso, Vista contenuto) const;
+  int Copia(const Percorso& da, const Percorso& a) const;     // whole and atomic as Sostituisci
+  int Cancella(const Percorso& percorso) const;               // a missing file is ENOENT
+  int Rinomina(const Percorso& da, const Percorso& a) const;  // EEXIST when the target is there
+  int Crea_Cartella(const Percorso& percorso) const;          // with every missing parent
+
+  // Names (without the folder) of the files of a folder that match a pattern of '*' and '?' ignoring case,
+  // sorted by name ignoring case.
+  std::vector<Percorso> Elenca(const Percorso& cartella, Vista modello) const;
+};
+
+// The text that the machine has for an errno, as Windows-1252.
+Testo Testo_Errore(int errore);
+
+// One running program for one folder: a lock on the folder itself, which dies with the process, so that a
+// crash never locks the firm out and nothing is left in the folder.
+class Blocco_Cartella {
+ public:
+  Blocco_Cartella() = default;
+  ~Blocco_Cartella();
+  Blocco_Cartella(const Blocco_Cartella&) = delete;
+  Blocco_Cartella& operator=(const Blocco_Cartella&) = delete;
+  // False when another program holds the lock. A folder that can't be locked at all counts as free.
+  bool Prendi(const Percorso& cartella);
+  void Lascia();
+
+ private:
+  int descrittore_ = -1;
+};

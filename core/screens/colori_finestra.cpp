@@ -1,0 +1,157 @@
+#include "core/screens/colori_finestra.h"
+
+#include <QBoxLayout>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
+
+#include "core/programma.h"
+#include "platform/aspetto.h"
+#include "platform/tasti_qt.h"
+#include "platform/testo_qt.h"
+
+namespace {
+
+QColor Qt_Di(const Colore& colore) { return {colore.rosso, colore.verde, colore.blu}; }
+
+void Dipingi(QLabel* scritta, const Campione& campione) {
+  QPalette tavolozza = scritta->palette();
+  tavolozza.setColor(QPalette::Window, Qt_Di(campione.fondo));
+  tavolozza.setColor(QPalette::WindowText, Qt_Di(campione.inchiostro));
+  if (tavolozza != scritta->palette()) scritta->setPalette(tavolozza);
+}
+
+QGroupBox* Riquadro_Titolato(const QString& titolo) {
+  auto* riquadro = new QGroupBox(titolo);
+  riquadro->setFont(Carattere(punti_normali, true));
+  return riquadro;
+}
+
+}  // namespace
+
+ColoriFinestra::ColoriFinestra(Programma& programma, QWidget* padre)
+    : Finestra(QStringLiteral("Colori"), padre, Qt::Window), programma_(programma) {
+  Apri_Colori(programma_, schermo_);
+  setWindowTitle(In_QString(schermo_.titolo));
+
+  auto* riga = new QHBoxLayout;
+  riga->setSpacing(14);
+  riga->addWidget(fa_inchiostri());
+  riga->addWidget(fa_fondo(), 1);
+
+  auto* comandi = new QHBoxLayout;
+  auto* nota = new QLabel(QStringLiteral("I colori valgono dalla prossima apertura di un giorno."));
+  nota->setFont(Carattere(punti_normali));
+  comandi->addWidget(nota, 1);
+  comandi->addWidget(fa_bottone(QStringLiteral("Applica"), schermo_.Applica,
+                                [this] { Applica_Colori(programma_, schermo_); }));
+  comandi->addWidget(fa_bottone(QStringLiteral("Chiudi"), schermo_.Chiudi, [this] { close(); }));
+
+  auto* tutto = new QVBoxLayout(this);
+  tutto->setContentsMargins(18, 14, 18, 14);
+  tutto->setSpacing(14);
+  tutto->addLayout(riga);
+  tutto->addWidget(fa_campioni());
+  tutto->addStretch();
+  tutto->addLayout(comandi);
+  mostra();
+}
+
+QGroupBox* ColoriFinestra::fa_inchiostri() {
+  auto* riquadro = Riquadro_Titolato(QStringLiteral("Colore del &testo"));
+  auto* colonna = new QVBoxLayout(riquadro);
+  for (int i = 0; i < 4; ++i) {
+    auto* scelta = new QRadioButton;
+    scelta->setFont(Carattere(punti_normali));
+    legame.lega(scelta, QStringLiteral("ColoreTesto(%1)").arg(i + 1), schermo_.ColoreTesto[i], [this, i] {
+      if (schermo_.ColoreTesto[i].segnata) Scegli_Inchiostro(schermo_, i + 1);
+    });
+    colonna->addWidget(scelta);
+  }
+  colonna->addStretch();
+  return riquadro;
+}
+
+QGroupBox* ColoriFinestra::fa_fondo() {
+  auto* riquadro = Riquadro_Titolato(QStringLiteral("Colore dello &sfondo"));
+  auto* griglia = new QGridLayout(riquadro);
+  griglia->setHorizontalSpacing(12);
+  struct Componente {
+    const char* nome;
+    const char* didascalia;
+    Cursore& stato;
+  };
+  const Componente componenti[] = {{"Colore1", "&Rosso", schermo_.Colore1},
+                                   {"Colore2", "&Verde", schermo_.Colore2},
+                                   {"Colore3", "&Blu", schermo_.Colore3}};
+  int riga = 0;
+  for (const auto& [nome, didascalia, stato] : componenti) {
+    auto* scritta = new QLabel(QString::fromUtf8(didascalia));
+    auto* cursore = new QSlider(Qt::Horizontal);
+    auto* numero = new QLabel;
+    cursore->setMinimumWidth(320);
+    cursore->setPageStep(16);
+    cursore->setAccessibleName(Senza_Scorciatoia(scritta->text()));
+    scritta->setBuddy(cursore);
+    for (QWidget* widget : {static_cast<QWidget*>(scritta), static_cast<QWidget*>(numero)})
+      widget->setFont(Carattere(punti_normali));
+    numero->setMinimumWidth(numero->fontMetrics().horizontalAdvance(QStringLiteral("0000")));
+    numero->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    connect(cursore, &QSlider::valueChanged, numero, qOverload<int>(&QLabel::setNum));
+    legame.lega(cursore, QString::fromUtf8(nome), stato, [this] { Rinfresca_Campioni(schermo_); });
+    numero->setNum(stato.valore);
+    griglia->addWidget(scritta, riga, 0);
+    griglia->addWidget(cursore, riga, 1);
+    griglia->addWidget(numero, riga++, 2);
+  }
+  return riquadro;
+}
+
+QGroupBox* ColoriFinestra::fa_campioni() {
+  auto* riquadro = Riquadro_Titolato(QStringLiteral("Esempio"));
+  auto* colonna = new QVBoxLayout(riquadro);
+  colonna->setSpacing(0);
+  normale_ = new QLabel;
+  selezionato_ = new QLabel;
+  legame.lega(normale_, QStringLiteral("Normale"), schermo_.Normale);
+  legame.lega(selezionato_, QStringLiteral("Selezionato"), schermo_.Selezionato);
+  QFont carattere = Carattere_Fisso(programma_.preferenze.DimFontListe);
+  carattere.setBold(false);  // not the title's weight
+  for (QLabel* campione : {normale_, selezionato_}) {
+    campione->setFont(carattere);
+    campione->setAutoFillBackground(true);
+    campione->setMargin(8);
+    colonna->addWidget(campione);
+  }
+  return riquadro;
+}
+
+QPushButton* ColoriFinestra::fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento) {
+  auto* bottone = new QPushButton;
+  bottone->setFont(Carattere(punti_normali));
+  bottone->setAutoDefault(true);  // Enter presses it
+  bottone->setMinimumWidth(bottone->fontMetrics().averageCharWidth() * 20);
+  bottone->setMinimumHeight(bottone->fontMetrics().height() * 2);
+  legame.lega(bottone, nome, stato, std::move(evento));
+  return bottone;
+}
+
+void ColoriFinestra::mostra() {
+  Finestra::mostra();
+  Dipingi(normale_, schermo_.Normale);
+  Dipingi(selezionato_, schermo_.Selezionato);
+}
+
+void ColoriFinestra::keyPressEvent(QKeyEvent* evento) {
+  const Pressione pressione = Da_QKeyEvent(*evento);
+  if (pressione.tasto == Tasto::Invio && pressione.Nudo())
+    focusNextChild();
+  else if (pressione.tasto == Tasto::Esc && pressione.Nudo())
+    close();
+  else
+    Finestra::keyPressEvent(evento);
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "core/schermo_colori.h"
+#include "platform/finestra.h"
+
+class QGroupBox;
+class QLabel;
+class QPushButton;
+
+// The colours screen `Colori`: ink and background of the ledger lists.
+class ColoriFinestra : public Finestra {
+  Q_OBJECT
+
+ public:
+  explicit ColoriFinestra(Programma& programma, QWidget* padre = nullptr);
+  void mostra() override;
+
+ protected:
+  void keyPressEvent(QKeyEvent* evento) override;
+
+ private:
+  QGroupBox* fa_inchiostri();
+  QGroupBox* fa_fondo();
+  QGroupBox* fa_campioni();
+  QPushButton* fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento);
+
+  Programma& programma_;
+  SchermoColori schermo_;
+  QLabel* normale_ = nullptr;
+  QLabel* selezionato_ = nullptr;
+};

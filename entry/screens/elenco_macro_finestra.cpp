@@ -1,0 +1,193 @@
+#include "entry/screens/elenco_macro_finestra.h"
+
+#include <QAction>
+#include <QBoxLayout>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListView>
+#include <QMenuBar>
+#include <QScreen>
+#include <QScrollBar>
+
+#include "platform/aspetto.h"
+#include "platform/tasti_qt.h"
+#include "platform/testo_qt.h"
+
+namespace {
+
+constexpr int righe_in_vista = 18;
+
+QLabel* Etichetta(const QString& testo, QWidget* compagno) {
+  auto* scritta = new QLabel(testo);
+  scritta->setFont(Carattere(punti_normali));
+  scritta->setBuddy(compagno);
+  return scritta;
+}
+
+}  // namespace
+
+ElencoMacroFinestra::ElencoMacroFinestra(Programma& programma, Edita& edita, Tipo_Macro tipo, bool dal_campo,
+                                         QWidget* padre)
+    : Finestra(tipo == Tipo_Macro::Specie ? QStringLiteral("DescPre") : QStringLiteral("DescPreFOR"), padre,
+               Qt::Window),
+      programma_(programma),
+      edita_(edita),
+      lista_(new QListView) {
+  setAttribute(Qt::WA_DeleteOnClose);
+  Apri_ElencoMacro(programma_, elenco_, tipo, dal_campo);
+  codice_ = fa_casella(QStringLiteral("Text1"), elenco_.Text1);
+  cerca_ = fa_casella(QStringLiteral("Text2"), elenco_.Text2);
+  codice_->setAccessibleName(QStringLiteral("Codice"));
+  cerca_->setAccessibleName(QStringLiteral("Cerca"));
+  auto* etichetta_codice = Etichetta(QStringLiteral("Co&dice"), codice_);
+  auto* etichetta_cerca = Etichetta(QStringLiteral("Cer&ca"), cerca_);
+  codice_->setMaximumWidth(codice_->fontMetrics().averageCharWidth() * 14);
+  cerca_->setMaximumWidth(cerca_->fontMetrics().averageCharWidth() * 30);
+
+  auto* esito = new QLabel;
+  esito->setTextFormat(Qt::PlainText);
+  esito->setFont(Carattere(punti_normali, true));
+  legame.lega(esito, QStringLiteral("Esito"), elenco_.Esito);
+
+  lista_->setFont(Carattere_Fisso(programma_.preferenze.DimFontListe));
+  lista_->setUniformItemSizes(true);
+  lista_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  lista_->setTextElideMode(Qt::ElideNone);
+  lista_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+  lista_->setAccessibleName(QStringLiteral("Macro"));
+  legame.lega(lista_, QStringLiteral("List1"), elenco_.List1);
+  lista_->installEventFilter(this);
+  connect(lista_, &QListView::doubleClicked, this, [this] { esegui_e_chiudi(EseguiScelta); });
+
+  auto* sopra = new QHBoxLayout;
+  sopra->setSpacing(8);
+  sopra->addWidget(etichetta_codice);
+  sopra->addWidget(codice_);
+  sopra->addSpacing(20);
+  sopra->addWidget(esito, 1);
+  sopra->addWidget(etichetta_cerca);
+  sopra->addWidget(cerca_, 1);
+  auto* tutto = new QVBoxLayout(this);
+  tutto->setContentsMargins(12, 8, 12, 12);
+  tutto->setSpacing(8);
+  tutto->setMenuBar(fa_menu());
+  tutto->addLayout(sopra);
+  tutto->addWidget(lista_, 1);
+
+  const QFontMetrics misure = lista_->fontMetrics();
+  const int colonne = tipo == Tipo_Macro::Specie ? 112 : 150;
+  const QSize voluta(misure.averageCharWidth() * colonne, misure.lineSpacing() * (righe_in_vista + 5));
+  resize(voluta.boundedTo(screen()->availableSize() * 0.92));
+  setTabOrder(codice_, cerca_);
+  setTabOrder(cerca_, lista_);
+  mostra();
+  lista_->setFocus();
+}
+
+CasellaTesto* ElencoMacroFinestra::fa_casella(const QString& nome, CampoTesto& stato) {
+  auto* casella = new CasellaTesto;
+  casella->setFont(Carattere(punti_grandi));
+  legame.lega(casella, nome, stato);
+  casella->installEventFilter(this);
+  return casella;
+}
+
+QMenuBar* ElencoMacroFinestra::fa_menu() {
+  auto* barra = new QMenuBar;
+  const auto voce = [&](const QString& nome, Bottone& stato, const Legame::Evento& evento) {
+    auto* azione = barra->addAction(QString());
+    legame.lega(azione, QStringLiteral("menu ") + nome, stato, evento);
+    return azione;
+  };
+  const auto copia = [this] { EseguiScelta(programma_, edita_, elenco_); };
+  connect(voce(QStringLiteral("Chiudi"), elenco_.Chiudi, {}), &QAction::triggered, this, &QWidget::close);
+  connect(voce(QStringLiteral("Copia"), elenco_.Copia, copia), &QAction::triggered, this, [this] {
+    if (elenco_.chiusa) close();
+  });
+  voce(QStringLiteral("Elimina"), elenco_.Elimina, [this] { EliminaMacro(programma_, elenco_); });
+  voce(QStringLiteral("Rinomina"), elenco_.Rinomina, [this] { RinominaMacro(programma_, elenco_); });
+  voce(QStringLiteral("Stampa"), elenco_.Stampa, {});
+  voce(QStringLiteral("Aiuto"), elenco_.Aiuto, [this] { AiutoMacro(programma_, elenco_); });
+  return barra;
+}
+
+void ElencoMacroFinestra::mostra() {
+  Finestra::mostra();
+  const QString titolo = In_QString(elenco_.titolo);
+  if (windowTitle() != titolo) setWindowTitle(titolo);
+}
+
+void ElencoMacroFinestra::esegui_e_chiudi(void (*routine)(Programma&, Edita&, Elenco_Macro&)) {
+  legame.esegui([&] { routine(programma_, edita_, elenco_); });
+  if (elenco_.chiusa) close();
+}
+
+bool ElencoMacroFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
+  if (evento->type() != QEvent::KeyPress) return Finestra::eventFilter(oggetto, evento);
+  const auto& tasto = *static_cast<QKeyEvent*>(evento);
+  if (oggetto == lista_ ? tasto_lista(tasto) : tasto_casella(oggetto, tasto)) return true;
+  return Finestra::eventFilter(oggetto, evento);
+}
+
+bool ElencoMacroFinestra::tasto_casella(const QObject* casella, const QKeyEvent& evento) {
+  const Pressione pressione = Da_QKeyEvent(evento);
+  if (!pressione.Nudo()) return false;
+  switch (pressione.tasto) {
+    case Tasto::Invio:
+      if (casella == codice_)
+        esegui_e_chiudi(EseguiCodice);
+      else
+        legame.esegui([this] { CercaMacro(elenco_); });
+      return true;
+    case Tasto::Giu:
+      lista_->setFocus(Qt::OtherFocusReason);
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool ElencoMacroFinestra::tasto_lista(const QKeyEvent& evento) {
+  const Pressione pressione = Da_QKeyEvent(evento);
+  if (pressione.ctrl || pressione.alt) return false;
+  if (pressione.tasto == Tasto::Invio) {
+    esegui_e_chiudi(EseguiScelta);
+    return true;
+  }
+  if (pressione.tasto == Tasto::Canc) {
+    legame.esegui([this] { EliminaMacro(programma_, elenco_); });
+    return true;
+  }
+  const QString testo = evento.text();
+  if (testo.size() != 1 || !testo[0].isPrint()) return false;
+  legame.esegui([&] { SaltaMacro(elenco_, Da_QString(testo)[0]); });
+  return true;
+}
+
+void ElencoMacroFinestra::keyPressEvent(QKeyEvent* evento) {
+  const Pressione pressione = Da_QKeyEvent(*evento);
+  if (pressione.tasto == Tasto::Esc && pressione.Nudo())
+    close();
+  else
+    Finestra::keyPressEvent(evento);
+}
+
+void ElencoMacroFinestra::closeEvent(QCloseEvent* evento) {
+  if (occupata()) return evento->ignore();  // a question of this window waits for its answer
+  Chiudi_ElencoMacro(edita_, elenco_);
+  Finestra::closeEvent(evento);
+}
+
+void Apri_DescPre(Programma& programma, Edita& edita, Tipo_Macro tipo, bool dal_campo, Finestra* padre) {
+  auto* finestra = new ElencoMacroFinestra(programma, edita, tipo, dal_campo, padre);
+  // once it is out of the way, so that the keyboard can go back
+  const auto ripresa = [padre] {
+    padre->window()->activateWindow();
+    padre->mostra();
+  };
+  QObject::connect(finestra, &Finestra::chiusa, padre, ripresa, Qt::QueuedConnection);
+  finestra->setWindowModality(Qt::WindowModal);
+  finestra->show();
+  finestra->activateWindow();
+}

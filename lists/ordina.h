@@ -1,0 +1,75 @@
+#pragma once
+
+#include <cstddef>
+#include <initializer_list>
+#include <utility>
+#include <vector>
+
+#include "core/programma.h"
+
+// Sorting. A row's key is the texts of its key columns, each followed by " - ", and the row's number in six
+// digits; keys are compared ignoring case, as texts ("10" stands before "9"). The number at the end makes
+// every key different, so rows that are equal otherwise keep their order.
+
+// Sorts texts from index `basso` to `alto`, both included, ignoring case; nothing happens unless basso <
+// alto.
+void Quick_Sort(std::vector<Testo>& chiavi, std::size_t basso, std::size_t alto);
+
+// The old places (from 0) of rows in their new order. Key i holds the key texts of row i, joined, without the
+// row number.
+std::vector<std::size_t> Ordine_Chiavi(std::vector<Testo> chiavi);
+
+// The text of a ledger row's field as a key: blanks at the end of CodiciConsolidare don't count, since a row
+// just keyed has one there and a row read back has none.
+Vista Testo_Chiave(const LedgerRow& riga, CampoRiga campo);
+template <std::size_t N>
+Vista Testo_Chiave(const std::array<Testo, N>& riga, std::size_t colonna) {
+  return riga[colonna];
+}
+
+// Puts rows into the order that Ordine_Chiavi gave.
+template <class Riga>
+void Riordina(std::vector<Riga>& righe, const std::vector<std::size_t>& ordine) {
+  std::vector<Riga> nuove;
+  nuove.reserve(righe.size());
+  for (const std::size_t vecchio : ordine) nuove.push_back(std::move(righe[vecchio]));
+  righe = std::move(nuove);
+}
+
+// Sorts any table of rows by the columns given: LedgerRow by CampoRiga, list rows by their columns from 0.
+template <class Riga, class Campo>
+void Ordina_Righe(std::vector<Riga>& righe, std::initializer_list<Campo> campi) {
+  if (righe.size() < 2) return;
+  std::vector<Testo> chiavi;
+  chiavi.reserve(righe.size());
+  for (const Riga& riga : righe) {
+    Testo chiave;
+    for (const Campo campo : campi) {
+      chiave += Testo_Chiave(riga, campo);
+      chiave += " - ";
+    }
+    chiavi.push_back(std::move(chiave));
+  }
+  Riordina(righe, Ordine_Chiavi(std::move(chiavi)));
+}
+
+// ---- the day's table. All set Colonna_Ordine to the first column, move whole rows, and leave Num and
+// Tabella_Modificata alone. Whoever shows the ledger fills its list again.
+
+// By one field. Prezzo goes by its form "00000.000": positive prices in the order of numbers, negative ones
+// before them and among themselves by their text (-2 before -12).
+void Ordina_Colonna(Programma& programma, CampoRiga campo);
+// By several fields, Prezzo among them by its text.
+void OrdinaDue(Programma& programma, CampoRiga c1, CampoRiga c2);
+void OrdinaTre(Programma& programma, CampoRiga c1, CampoRiga c2, CampoRiga c3);
+void OrdinaCinque(Programma& programma, CampoRiga c1, CampoRiga c2, CampoRiga c3, CampoRiga c4, CampoRiga c5);
+// Order of entry: by Num, which then becomes each row's place in four digits.
+void Rinumera_Tabella(Programma& programma);
+
+// ---- lists. Each order is written to the list's file; false when that failed (told), the table is sorted
+// then.
+
+// `campo` as the operator counts: 1 code, 2 name, 3 nickname.
+bool Ordina_Clienti(Programma& programma, int campo);
+// By a column of the species list: specie::Alfa, Descrizione, Iva or NomeLatino.
+bool Ordina_Specie(Programma& programma, int colonna);

@@ -1,0 +1,198 @@
+#include "lists/screens/esclusi_finestra.h"
+
+#include <QBoxLayout>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListView>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
+
+#include "lists/screens/parti.h"
+#include "platform/aspetto.h"
+#include "platform/tasti_qt.h"
+#include "platform/testo_qt.h"
+
+EsclusiFinestra::EsclusiFinestra(Programma& programma, QWidget* padre)
+    : Finestra(QStringLiteral("Esclusi"), padre, Qt::Window),
+      programma_(programma),
+      lista_(new ListaVoci(programma.preferenze.DimFontListe)),
+      campo_(new CasellaTesto),
+      appunti_(new QPlainTextEdit) {
+  Prepara_Esclusi(programma_, schermo_);
+  setFont(Carattere(punti_normali));
+  lega_lista();
+
+  auto* doppio_clic = new QLabel;
+  doppio_clic->setWordWrap(true);
+  legame.lega(doppio_clic, QStringLiteral("AiutoDoppioClic"), schermo_.AiutoDoppioClic);
+  auto* sinistra = new QVBoxLayout;
+  sinistra->addWidget(lista_, 1);
+  sinistra->addWidget(doppio_clic);
+  auto* destra = new QVBoxLayout;
+  destra->setSpacing(12);
+  destra->addWidget(fa_manuale());
+  destra->addWidget(fa_automatico(), 1);
+  auto* affiancate = new QHBoxLayout;
+  affiancate->setSpacing(14);
+  affiancate->addLayout(sinistra, 1);
+  affiancate->addLayout(destra, 1);
+
+  auto* tutto = new QVBoxLayout(this);
+  tutto->setContentsMargins(14, 14, 14, 14);
+  tutto->setSpacing(12);
+  tutto->addLayout(affiancate, 1);
+  tutto->addLayout(fa_comandi());
+  mostra();
+}
+
+void EsclusiFinestra::lega_lista() {
+  lista_->setAccessibleName(QStringLiteral("Codici esclusi"));
+  lista_->installEventFilter(this);
+  legame.lega(lista_, QStringLiteral("List1"), schermo_.List1);
+  connect(lista_, &QListView::doubleClicked, this,
+          [this] { legame.esegui([this] { Reintegra_Escluso(programma_, schermo_); }); });
+}
+
+QGroupBox* EsclusiFinestra::fa_riquadro(const Scritta& aiuto) {
+  auto* riquadro = new QGroupBox(In_QString(aiuto.testo));
+  riquadro->setFont(Carattere(punti_normali, true));
+  return riquadro;
+}
+
+QGroupBox* EsclusiFinestra::fa_manuale() {
+  auto* riquadro = fa_riquadro(schermo_.AiutoManuale);
+  auto* griglia = new QGridLayout(riquadro);
+  campo_->setFont(Carattere(punti_grandi));
+  campo_->setAccessibleName(QStringLiteral("Codice"));
+  campo_->installEventFilter(this);
+  legame.lega(campo_, QStringLiteral("Text1"), schermo_.Text1);
+  griglia->addWidget(campo_, 0, 0, 1, 2);
+  griglia->addWidget(fa_bottone(QStringLiteral("Aggiungi"), schermo_.Aggiungi,
+                                [this] { Aggiungi_Escluso(programma_, schermo_); }),
+                     1, 0);
+  griglia->addWidget(fa_bottone(QStringLiteral("Elimina"), schermo_.Elimina,
+                                [this] { Elimina_Escluso(programma_, schermo_); }),
+                     1, 1);
+  return riquadro;
+}
+
+QGroupBox* EsclusiFinestra::fa_automatico() {
+  auto* riquadro = fa_riquadro(schermo_.AiutoAutomatico);
+  auto* griglia = new QGridLayout(riquadro);
+  appunti_->setObjectName(QStringLiteral("Appunti"));
+  appunti_->setAccessibleName(QStringLiteral("Testo incollato"));
+  appunti_->setFont(Carattere_Fisso(punti_normali));
+  appunti_->setReadOnly(true);
+  appunti_->setTabChangesFocus(true);
+  griglia->addWidget(appunti_, 0, 0, 1, 2);
+  griglia->addWidget(fa_bottone(QStringLiteral("Incolla"), schermo_.Incolla,
+                                [this] { Incolla_Esclusi(programma_, schermo_, Incollatura::Pezzo_Intero); }),
+                     1, 0);
+  griglia->addWidget(fa_bottone(QStringLiteral("Incolla2"), schermo_.Incolla2,
+                                [this] { Incolla_Esclusi(programma_, schermo_, Incollatura::Prima_Parola); }),
+                     1, 1);
+  return riquadro;
+}
+
+QBoxLayout* EsclusiFinestra::fa_comandi() {
+  auto* riga = new QHBoxLayout;
+  auto* esito = new QLabel;
+  legame.lega(esito, QStringLiteral("Esito"), schermo_.Esito);
+  riga->addWidget(fa_bottone(QStringLiteral("Salva"), schermo_.Salva,
+                             [this] { Salva_Elenco_Esclusi(programma_, schermo_); }));
+  riga->addWidget(esito, 1);
+  riga->addWidget(fa_bottone(QStringLiteral("Chiudi"), schermo_.Chiudi, [this] { close(); }));
+  return riga;
+}
+
+QPushButton* EsclusiFinestra::fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento) {
+  QPushButton* bottone = Fa_Bottone(stato);
+  legame.lega(bottone, nome, stato, std::move(evento));
+  return bottone;
+}
+
+void EsclusiFinestra::mostra() {
+  Finestra::mostra();
+  const QString titolo = In_QString(schermo_.titolo), appunti = In_QString(schermo_.Appunti.testo);
+  if (windowTitle() != titolo) setWindowTitle(titolo);
+  if (appunti_->toPlainText() != appunti) appunti_->setPlainText(appunti);
+}
+
+void EsclusiFinestra::apri() {
+  const QRect intorno = parentWidget() ? parentWidget()->window()->geometry() : screen()->availableGeometry();
+  const QRect libero = intorno & screen()->availableGeometry();
+  resize(qMax(sizeHint().width(), fontMetrics().averageCharWidth() * 80), libero.height() * 7 / 10);
+  move(libero.right() - width() - 14, libero.top() + (libero.height() - height()) / 2);
+  show();
+  activateWindow();
+  campo_->setFocus(Qt::OtherFocusReason);
+}
+
+void EsclusiFinestra::escludi(const Testo& codice) {
+  legame.esegui([&] { Escludi_Codice(programma_, schermo_, codice); });
+}
+
+// In the field Enter adds the code; in the list Enter does what a double click does, Delete takes the line
+// away.
+bool EsclusiFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
+  if (evento->type() != QEvent::KeyPress) return Finestra::eventFilter(oggetto, evento);
+  const Pressione pressione = Da_QKeyEvent(*static_cast<QKeyEvent*>(evento));
+  if (!pressione.Nudo()) return Finestra::eventFilter(oggetto, evento);
+  const bool invio = pressione.tasto == Tasto::Invio;
+  if (oggetto == campo_ && invio) {
+    legame.esegui([this] { Aggiungi_Escluso(programma_, schermo_); });
+    return true;
+  }
+  if (oggetto == lista_ && (invio || pressione.tasto == Tasto::Canc)) {
+    legame.esegui([&] { (invio ? Reintegra_Escluso : Elimina_Escluso)(programma_, schermo_); });
+    return true;
+  }
+  return Finestra::eventFilter(oggetto, evento);
+}
+
+void EsclusiFinestra::keyPressEvent(QKeyEvent* evento) {
+  const Pressione pressione = Da_QKeyEvent(*evento);
+  if (pressione.tasto == Tasto::Esc && pressione.Nudo())
+    close();
+  else
+    Finestra::keyPressEvent(evento);
+}
+
+namespace {
+
+EsclusiFinestra* Aperta(const QWidget* padre) {
+  if (!padre) return nullptr;
+  const auto finestre = padre->findChildren<EsclusiFinestra*>(QString(), Qt::FindDirectChildrenOnly);
+  for (EsclusiFinestra* finestra : finestre)
+    if (finestra->isVisible()) return finestra;
+  return nullptr;
+}
+
+EsclusiFinestra* Nuova(Programma& programma, QWidget* padre, const std::function<void()>& chiusa) {
+  auto* finestra = new EsclusiFinestra(programma, padre);
+  finestra->setAttribute(Qt::WA_DeleteOnClose);
+  if (chiusa) QObject::connect(finestra, &Finestra::chiusa, finestra, chiusa);
+  finestra->apri();
+  return finestra;
+}
+
+}  // namespace
+
+EsclusiFinestra* Apri_Esclusi(Programma& programma, QWidget* padre, const std::function<void()>& chiusa) {
+  EsclusiFinestra* aperta = Aperta(padre);
+  if (!aperta) return Nuova(programma, padre, chiusa);
+  aperta->raise();
+  aperta->activateWindow();
+  return aperta;
+}
+
+// Where the list stands open already the keyboard stays in the entry screen.
+EsclusiFinestra* Escludi_Questo_Codice(Programma& programma, QWidget* padre, const Testo& codice,
+                                       const std::function<void()>& chiusa) {
+  EsclusiFinestra* finestra = Aperta(padre);
+  if (!finestra) finestra = Nuova(programma, padre, chiusa);
+  finestra->escludi(codice);
+  return finestra;
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "lists/anagrafica_specie.h"
+#include "platform/finestra.h"
+
+class QListView;
+
+// The official list of species, `ModDescrLista`. A double click or Enter copies the line into the fields of
+// the species editor that stands behind it, and closes the window.
+class UfficialiFinestra : public Finestra {
+  Q_OBJECT
+
+ public:
+  // `modulo` shows the editor's fields; it must outlive this window.
+  UfficialiFinestra(Programma& programma, SchermoAnagrafica& specie, Finestra* modulo);
+  void apri();
+
+ protected:
+  bool eventFilter(QObject* oggetto, QEvent* evento) override;
+  void keyPressEvent(QKeyEvent* evento) override;
+
+ private:
+  void fa_bottone(QLayout* riga, const QString& nome, Bottone& stato, Legame::Evento evento);
+  void copia();
+
+  Programma& programma_;
+  SchermoAnagrafica& specie_;
+  Finestra* modulo_;
+  SchermoUfficiali schermo_;
+  QListView* lista_;
+};

@@ -1,0 +1,65 @@
+# shellcheck shell=bash
+# What ./run and ./test need of the machine. Sourced by both, so that each package stands here once, with its
+# reason; docs/dependencies.md says more.
+
+packages_build=(
+  "g++|the compiler"
+  "cmake|configures the build"
+  "ninja-build|runs the build"
+  "pkg-config|finds SimpleIni for the build"
+  "qt6-base-dev|windows and paper"
+  "libsimpleini-dev|the settings file"
+)
+packages_desk=(
+  "fonts-liberation|the typefaces of screen and paper, same widths as Arial and Courier New"
+)
+packages_test=(
+  "libgtest-dev|unit tests"
+  "libgmock-dev|matchers of the unit tests"
+  "git|lists the files of the project"
+  "clang-format|checks the form of the sources"
+  "clang-tidy|checks the sources for faults"
+)
+packages_screen=(
+  "xvfb|an X server without a screen"
+  "xdotool|presses keys in it"
+  "imagemagick|takes its pictures"
+)
+
+# Names of those of the given "package|reason" lines that aren't installed.
+missing_packages() {
+  local line name
+  for line in "$@"; do
+    name=${line%%|*}
+    [ "$(dpkg-query -W -f='${db:Status-Status}' "$name" 2>/dev/null)" = installed ] || printf '%s\n' "$line"
+  done
+}
+
+# Installs what is missing of the given lines from Debian's own packages, and says first what and why.
+install_packages() {
+  if ! command -v dpkg-query >/dev/null; then
+    echo "This machine has no Debian packages. If a step below fails for want of a program, see docs/dependencies.md."
+    return 0
+  fi
+  local missing=() names=() as_root=() line
+  mapfile -t missing < <(missing_packages "$@")
+  [ ${#missing[@]} -gt 0 ] || return 0
+
+  echo "These Debian packages are missing and will be installed:"
+  for line in "${missing[@]}"; do
+    names+=("${line%%|*}")
+    printf '  %-18s %s\n' "${line%%|*}" "${line#*|}"
+  done
+  if [ "$(id -u)" -ne 0 ]; then
+    if ! command -v sudo >/dev/null; then
+      echo "You are not root and there is no sudo. Have them installed with:" >&2
+      echo "  apt-get install --no-install-recommends ${names[*]}" >&2
+      return 1
+    fi
+    as_root=(sudo)
+  fi
+  # Old package lists may name versions that the mirror no longer has.
+  "${as_root[@]}" apt-get update -q || echo "The package lists could not be renewed; going on with those that are here."
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -q --no-install-recommends "${names[@]}"
+}

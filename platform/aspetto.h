@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QFont>
+#include <QLineEdit>
+
+// What makes the screens readable at arm's length: sizes in points on the desktop's own fonts and palette.
+
+QFont Carattere(double punti, bool grassetto = false);  // the desktop's font
+QFont Carattere_Fisso(double punti);                    // fixed pitch, so that the columns of a list line up
+inline constexpr double punti_titolo = 18, punti_grandi = 15, punti_normali = 11;
+
+// A text field with a strong mark while it has the focus, and a text that stays readable while it is
+// disabled.
+class CasellaTesto : public QLineEdit {
+  Q_OBJECT
+
+ public:
+  explicit CasellaTesto(QWidget* padre = nullptr);
+  void tieni(bool si);  // a held field, which the cursor passes over, carries a bar
+
+ protected:
+  void focusOutEvent(QFocusEvent* evento) override;
+  void paintEvent(QPaintEvent* evento) override;
+
+ private:
+  bool tenuta_ = false;
+};

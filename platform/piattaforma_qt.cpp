@@ -1,0 +1,192 @@
+#include "platform/piattaforma_qt.h"
+
+#include <algorithm>
+#include <array>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDate>
+#include <QDesktopServices>
+#include <QEventLoop>
+#include <QFile>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPageLayout>
+#include <QPointer>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QProcess>
+#include <QPushButton>
+#include <QStorageInfo>
+#include <QTimer>
+#include <QUrl>
+
+#include "platform/aspetto.h"
+#include "platform/finestra.h"
+#include "platform/testo_qt.h"
+
+namespace {
+
+// A loop over thousands of rows asks to repaint at each: more often than this the eye doesn't see it.
+constexpr qint64 ms_fra_ridipinture = 30;
+constexpr double punti_messaggio = 13;
+
+QString Titolo(const Testo& titolo) {
+  return titolo.empty() ? QStringLiteral("Prima Nota") : In_QString(titolo);
+}
+
+QString Nome_Qt(const Percorso& percorso) { return QFile::decodeName(percorso.string().c_str()); }
+
+QMessageBox::Icon In_Icona(Icona icona) {
+  switch (icona) {
+    case Icona::Informazione:
+      return QMessageBox::Information;
+    case Icona::Esclamazione:
+      return QMessageBox::Warning;
+    case Icona::Domanda:
+      return QMessageBox::Question;
+    case Icona::Nessuna:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+// The pointer is the normal one while a message stands, also in the midst of a long job.
+// Afterwards the keyboard goes back to the window it was in, also where no window manager sees to that.
+class Interruzione {
+ public:
+  Interruzione()
+      : occupato_(QApplication::overrideCursor() != nullptr), finestra_(QApplication::activeWindow()) {
+    if (occupato_) QApplication::setOverrideCursor(Qt::ArrowCursor);
+  }
+  ~Interruzione() {
+    if (occupato_) QApplication::restoreOverrideCursor();
+    if (finestra_) finestra_->activateWindow();
+  }
+  Interruzione(const Interruzione&) = delete;
+  Interruzione& operator=(const Interruzione&) = delete;
+  QWidget* finestra() const { return finestra_; }
+
+ private:
+  bool occupato_;
+  QPointer<QWidget> finestra_;
+};
+
+bool Mostra_Messaggio(const Testo& testo, Icona icona, const Testo& titolo, bool annullabile) {
+  Mostra_Finestre();
+  const Interruzione interruzione;
+  QMessageBox box(In_Icona(icona), Titolo(titolo), In_QString(testo), QMessageBox::NoButton,
+                  interruzione.finestra());
+  box.setTextFormat(Qt::PlainText);
+  box.setFont(Carattere(punti_messaggio));
+  QPushButton* ok = box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+  box.setDefaultButton(ok);
+  if (annullabile)
+    box.setEscapeButton(box.addButton(QStringLiteral("Annulla"), QMessageBox::RejectRole));
+  else
+    box.setEscapeButton(ok);
+  box.exec();
+  return box.clickedButton() == ok;
+}
+
+}  // namespace
+
+void Piattaforma_Qt::Messaggio(const Testo& testo, Icona icona, const Testo& titolo) {
+  Mostra_Messaggio(testo, icona, titolo, false);
+}
+
+bool Piattaforma_Qt::Domanda(const Testo& testo, Icona icona, const Testo& titolo) {
+  return Mostra_Messaggio(testo, icona, titolo, true);
+}
+
+std::optional<Testo> Piattaforma_Qt::Chiedi(const Testo& testo, const Testo& titolo, const Testo& proposta) {
+  Mostra_Finestre();
+  const Interruzione interruzione;
+  QInputDialog box(interruzione.finestra());
+  box.setFont(Carattere(punti_messaggio));
+  box.setWindowTitle(Titolo(titolo));
+  box.setLabelText(In_QString(testo));
+  box.setTextValue(In_QString(proposta));
+  box.setOkButtonText(QStringLiteral("OK"));
+  box.setCancelButtonText(QStringLiteral("Annulla"));
+  if (box.exec() != QDialog::Accepted) return std::nullopt;
+  return Senza_Separatori(Da_QString(box.textValue()));
+}
+
+void Piattaforma_Qt::Ridipingi() {
+  if (ultima_ridipintura_.isValid() && ultima_ridipintura_.elapsed() < ms_fra_ridipinture) return;
+  Mostra_Finestre();
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  ultima_ridipintura_.start();
+}
+
+void Piattaforma_Qt::Attendi(double secondi) {
+  Mostra_Finestre();
+  QEventLoop giro;
+  QTimer::singleShot(static_cast<int>(secondi * 1000), &giro, &QEventLoop::quit);
+  giro.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+void Piattaforma_Qt::Occupato(bool si) {
+  const bool gia = QApplication::overrideCursor() != nullptr;
+  if (si == gia) return;
+  if (si)
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  else
+    QApplication::restoreOverrideCursor();
+}
+
+Data Piattaforma_Qt::Oggi() {
+  const QDate oggi = QDate::currentDate();
+  return {oggi.year(), oggi.month(), oggi.day()};
+}
+
+char Piattaforma_Qt::Separatore_Decimale() {
+  return QLocale::system().decimalPoint() == QLatin1String(".") ? '.' : ',';
+}
+
+Testo Piattaforma_Qt::Appunti() { return Da_QString(QApplication::clipboard()->text()); }
+
+std::vector<Volume> Piattaforma_Qt::Volumi() {
+  static constexpr std::array cartelle = {"/media/", "/run/media/", "/mnt/"};  // where desktops mount sticks
+  std::vector<Volume> esito;
+  const auto montati = QStorageInfo::mountedVolumes();
+  for (const QStorageInfo& volume : montati) {
+    const QString radice = volume.rootPath();
+    const bool con_lettera = radice.size() >= 2 && radice[1] == QLatin1Char(':');
+    const bool staccabile = std::any_of(cartelle.begin(), cartelle.end(), [&](const char* cartella) {
+      return radice.startsWith(QLatin1String(cartella));
+    });
+    if (!volume.isReady() || (!con_lettera && !staccabile)) continue;
+    esito.push_back({Percorso(QFile::encodeName(radice).toStdString()),
+                     Da_QString(con_lettera ? radice.left(2) : radice), Da_QString(volume.displayName())});
+  }
+  return esito;
+}
+
+std::optional<Stampante> Piattaforma_Qt::Stampante_Corrente() {
+  const QPrinterInfo stampante = QPrinterInfo::defaultPrinter();
+  if (stampante.isNull()) return Stampante{"PDF", false};  // paper works on a machine that has no printer
+  const QPrinter foglio(stampante);
+  return Stampante{Da_QString(stampante.printerName()),
+                   foglio.pageLayout().orientation() == QPageLayout::Landscape};
+}
+
+bool Piattaforma_Qt::Avvia_Programma(const Percorso& programma, const std::vector<Testo>& argomenti) {
+  QStringList lista;
+  for (const Testo& argomento : argomenti) lista << In_QString(argomento);
+  const QString file = Nome_Qt(programma);
+  return QProcess::startDetached(file, lista, QFileInfo(file).absolutePath());
+}
+
+void Piattaforma_Qt::Apri_Con_Desktop(const Percorso& file_o_cartella) {
+  QDesktopServices::openUrl(QUrl::fromLocalFile(Nome_Qt(file_o_cartella)));
+}
+
+void Piattaforma_Qt::Termina() {
+  // Not quit(), which would ask every window to close once more.
+  QMetaObject::invokeMethod(
+      qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QElapsedTimer>
+
+#include "core/piattaforma.h"
+
+// The machine as the desktop's toolkit gives it.
+class Piattaforma_Qt : public Piattaforma {
+ public:
+  void Messaggio(const Testo& testo, Icona icona, const Testo& titolo) override;
+  bool Domanda(const Testo& testo, Icona icona, const Testo& titolo) override;
+  std::optional<Testo> Chiedi(const Testo& testo, const Testo& titolo, const Testo& proposta) override;
+  void Ridipingi() override;
+  void Attendi(double secondi) override;
+  void Occupato(bool si) override;
+  Data Oggi() override;
+  char Separatore_Decimale() override;
+  Testo Appunti() override;
+  std::vector<Volume> Volumi() override;
+  std::optional<Stampante> Stampante_Corrente() override;
+  bool Avvia_Programma(const Percorso& programma, const std::vector<Testo>& argomenti) override;
+  void Apri_Con_Desktop(const Percorso& file_o_cartella) override;
+  void Termina() override;
+
+ private:
+  QElapsedTimer ultima_ridipintura_;
+};

@@ -1,0 +1,250 @@
+#include "start/screens/b_inizio.h"
+
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListView>
+#include <QPushButton>
+
+#include "platform/aspetto.h"
+#include "platform/tasti_qt.h"
+#include "platform/testo_qt.h"
+#include "start/screens/quadro.h"
+
+namespace {
+
+int Pesce_Scelto(const Preferenze& preferenze) {
+  if (preferenze.v_pesce2) return 2;
+  if (preferenze.v_pesce3) return 3;
+  return preferenze.v_pesce4 ? 4 : 1;
+}
+
+CasellaTesto* Campo_Numero(int cifre, double punti) {
+  auto* campo = new CasellaTesto;
+  campo->setFont(Carattere(punti, true));
+  campo->setAlignment(Qt::AlignCenter);
+  campo->setFixedWidth(campo->fontMetrics().horizontalAdvance(QString(cifre + 2, u'0')));
+  return campo;
+}
+
+}  // namespace
+
+B_InizioFinestra::B_InizioFinestra(Programma& programma, QWidget* padre)
+    : Finestra(QStringLiteral("B_Inizio"), padre), programma_(programma), quadro_(new Quadro) {
+  setFont(Carattere(punti_normali));
+  Carica_Inizio(programma_, inizio_);
+  inizio_.Command11.suggerimento = "Giorno dopo";
+  inizio_.Command12.suggerimento = "Giorno prima";
+
+  auto* colonna = new QVBoxLayout;
+  colonna->setSpacing(14);
+  auto* prompt = scritta(QStringLiteral("Prompt"), inizio_.Prompt);
+  prompt->setFont(Carattere(punti_grandi));
+  colonna->addWidget(prompt);
+  colonna->addWidget(fa_data());
+  colonna->addWidget(fa_comandi());
+  colonna->addWidget(fa_numeri());
+  colonna->addStretch();
+  colonna->addWidget(fa_strumenti());
+
+  auto* destra = new QVBoxLayout;
+  destra->addWidget(quadro_, 1);
+  destra->addWidget(fa_ditta());
+
+  auto* tutto = new QHBoxLayout(this);
+  tutto->setContentsMargins(24, 20, 24, 16);
+  tutto->setSpacing(28);
+  tutto->addLayout(colonna);
+  tutto->addLayout(destra, 1);
+
+  auto* file1 = new QListView(this);
+  legame.lega(file1, QStringLiteral("File1"), inizio_.File1);
+  mostra();
+}
+
+QLabel* B_InizioFinestra::scritta(const QString& nome, Scritta& stato) {
+  auto* etichetta = new QLabel;
+  etichetta->setTextFormat(Qt::PlainText);
+  legame.lega(etichetta, nome, stato);
+  return etichetta;
+}
+
+QWidget* B_InizioFinestra::fa_data() {
+  auto* riquadro = new QGroupBox(QStringLiteral("Giorno di lavoro"));
+  auto* riga = new QHBoxLayout(riquadro);
+  const auto cambia = [this] { Cambia_Data(programma_, inizio_); };
+
+  auto* giorno = Campo_Numero(2, punti_titolo + 4);
+  giorno->setAccessibleName(QStringLiteral("Giorno"));
+  giorno->setMaxLength(2);
+  giorno_ = giorno;
+  auto* mese = new QComboBox;
+  mese->setFont(Carattere(punti_titolo));
+  mese->setAccessibleName(QStringLiteral("Mese"));
+  mese->setMaxVisibleItems(12);
+  auto* anno = Campo_Numero(4, punti_titolo + 4);
+  anno->setAccessibleName(QStringLiteral("Anno"));
+  anno->setMaxLength(4);
+  legame.lega(giorno, QStringLiteral("Text1"), inizio_.Text1, cambia);
+  legame.lega(mese, QStringLiteral("Combo1"), inizio_.Combo1, cambia);
+  legame.lega(anno, QStringLiteral("Text3"), inizio_.Text3, cambia);
+  mese->setMinimumWidth(mese->fontMetrics().horizontalAdvance(QStringLiteral("Settembre   ")) + 40);
+  mese->setMinimumHeight(giorno->sizeHint().height());
+
+  auto* passi = new QVBoxLayout;
+  passi->setSpacing(2);
+  auto* su = new QPushButton;
+  auto* giu = new QPushButton;
+  legame.lega(su, QStringLiteral("Command11"), inizio_.Command11, [this] { Giorno_Su(programma_, inizio_); });
+  legame.lega(giu, QStringLiteral("Command12"), inizio_.Command12,
+              [this] { Giorno_Giu(programma_, inizio_); });
+  for (QPushButton* passo : {su, giu}) {
+    passo->setFont(Carattere(punti_normali, true));
+    passo->setFixedSize(44, giorno->sizeHint().height() / 2);
+    passi->addWidget(passo);
+  }
+
+  auto* settimana = scritta(QStringLiteral("Label13"), inizio_.Label13);
+  settimana->setFont(Carattere(punti_grandi, true));
+  settimana->setMinimumWidth(settimana->fontMetrics().horizontalAdvance(QStringLiteral("(Mercoledì) ")));
+
+  riga->addWidget(giorno);
+  riga->addLayout(passi);
+  riga->addWidget(mese);
+  riga->addWidget(anno);
+  riga->addWidget(settimana, 1);
+  return riquadro;
+}
+
+QWidget* B_InizioFinestra::fa_numeri() {
+  struct Voce {
+    const char* titolo;
+    const char* nome;
+    CampoTesto& stato;
+  };
+  const std::array<Voce, 4> voci = {{{"Conto Vendita", "Text2", inizio_.Text2},
+                                     {"Nota di Accredito", "Text4", inizio_.Text4},
+                                     {"Fattura", "Text5", inizio_.Text5},
+                                     {"DDT", "Text6", inizio_.Text6}}};
+  auto* riquadro = new QGroupBox(QStringLiteral("Ultimi numeri emessi"));
+  auto* griglia = new QGridLayout(riquadro);
+  griglia->setHorizontalSpacing(16);
+  int colonna = 0;
+  for (const Voce& voce : voci) {
+    auto* campo = Campo_Numero(6, punti_grandi);
+    const QString titolo = QString::fromLatin1(voce.titolo);
+    campo->setAccessibleName(titolo);
+    legame.lega(campo, QString::fromLatin1(voce.nome), voce.stato);
+    auto* etichetta = new QLabel(titolo);
+    etichetta->setBuddy(campo);
+    griglia->addWidget(etichetta, 0, colonna);
+    griglia->addWidget(campo, 1, colonna++);
+  }
+  griglia->setColumnStretch(colonna, 1);
+  return riquadro;
+}
+
+QWidget* B_InizioFinestra::fa_comandi() {
+  auto* riga = new QWidget;
+  auto* disposizione = new QHBoxLayout(riga);
+  disposizione->setContentsMargins(0, 0, 0, 0);
+  auto* avanti = new QPushButton;
+  auto* fine = new QPushButton;
+  legame.lega(avanti, QStringLiteral("Command2"), inizio_.Command2, [this] { continua(); });
+  legame.lega(fine, QStringLiteral("Command1"), inizio_.Command1, [this] { Abbandona(programma_); });
+  avanti->setDefault(true);
+  avanti->setFont(Carattere(punti_titolo, true));
+  avanti->setMinimumHeight(avanti->fontMetrics().height() * 2);
+  fine->setFont(Carattere(punti_grandi));
+  fine->setMinimumHeight(avanti->minimumHeight());
+  disposizione->addWidget(avanti, 2);
+  disposizione->addWidget(fine, 1);
+  return riga;
+}
+
+QWidget* B_InizioFinestra::fa_strumenti() {
+  struct Voce {
+    const char* nome;
+    Bottone& stato;
+    Legame::Evento evento;
+  };
+  const std::vector<Voce> voci = {{"Command7", inizio_.Command7, {}},
+                                  {"Command10", inizio_.Command10, [this] { GestioneListe(programma_); }},
+                                  {"Command6", inizio_.Command6, {}},
+                                  {"Command8", inizio_.Command8, {}},
+                                  {"Command4", inizio_.Command4, {}},
+                                  {"Command9", inizio_.Command9, {}},
+                                  {"Command14", inizio_.Command14, {}},
+                                  {"Command15", inizio_.Command15, {}},
+                                  {"Command16", inizio_.Command16, {}},
+                                  {"Command5", inizio_.Command5, {}}};
+  constexpr int per_riga = 5;
+  auto* riquadro = new QGroupBox(QStringLiteral("Strumenti"));
+  auto* griglia = new QGridLayout(riquadro);
+  int posto = 0;
+  for (const Voce& voce : voci) {
+    auto* bottone = new QPushButton;
+    legame.lega(bottone, QString::fromLatin1(voce.nome), voce.stato, voce.evento);
+    bottone->setMinimumHeight(bottone->fontMetrics().height() * 2);
+    if (!voce.stato.visibile) {
+      bottone->setParent(riquadro);
+      continue;
+    }
+    griglia->addWidget(bottone, posto / per_riga, posto % per_riga);
+    ++posto;
+  }
+  return riquadro;
+}
+
+QWidget* B_InizioFinestra::fa_ditta() {
+  auto* riquadro = new QWidget;
+  auto* colonna = new QVBoxLayout(riquadro);
+  colonna->setContentsMargins(4, 6, 4, 0);
+  colonna->setSpacing(4);
+  auto* ditta = scritta(QStringLiteral("Ditta"), inizio_.Ditta);
+  auto* ragione = scritta(QStringLiteral("RagioneSociale"), inizio_.RagioneSociale);
+  ditta->setFont(Carattere(punti_normali));
+  ragione->setFont(Carattere(punti_titolo, true));
+  colonna->addWidget(ditta);
+  colonna->addWidget(ragione);
+  colonna->addWidget(scritta(QStringLiteral("Moduli"), inizio_.Moduli));
+  colonna->addWidget(scritta(QStringLiteral("Nota"), inizio_.Nota));
+  colonna->addWidget(scritta(QStringLiteral("Stato"), inizio_.Stato));
+  return riquadro;
+}
+
+void B_InizioFinestra::mostra() {
+  legame.mostra();
+  const QString titolo = In_QString(inizio_.titolo);
+  if (windowTitle() != titolo) setWindowTitle(titolo);
+  Mostra_Sfondo(this, inizio_.sfondo);
+  quadro_->scegli(Pesce_Scelto(programma_.preferenze));
+}
+
+void B_InizioFinestra::ritorna() {
+  Ritorna_Inizio(programma_, inizio_);
+  mostra();
+  giorno_->setFocus();
+  giorno_->selectAll();
+}
+
+void B_InizioFinestra::continua() {
+  if (inizio_.attiva && Apri_Giorno(programma_, inizio_)) emit giorno_aperto();
+}
+
+void B_InizioFinestra::keyPressEvent(QKeyEvent* evento) {
+  const Pressione pressione = Da_QKeyEvent(*evento);
+  bool usata = true;
+  legame.esegui([&] {
+    if (pressione.tasto == Tasto::Invio && pressione.Nudo())
+      continua();
+    else if (pressione.tasto == Tasto::Esc && pressione.Nudo())
+      Abbandona(programma_);
+    else
+      usata = TastoInizio(programma_, inizio_, pressione);
+  });
+  if (!usata) Finestra::keyPressEvent(evento);
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "core/programma.h"
+#include "platform/finestra.h"
+#include "start/inizio.h"
+
+class CasellaTesto;
+class QLabel;
+class Quadro;
+
+// The window of the start screen.
+class B_InizioFinestra : public Finestra {
+  Q_OBJECT
+
+ public:
+  explicit B_InizioFinestra(Programma& programma, QWidget* padre = nullptr);
+
+  void mostra() override;
+  void ritorna();  // a day was closed; or the screen comes up for the first time
+
+ signals:
+  void giorno_aperto();
+
+ protected:
+  void keyPressEvent(QKeyEvent* evento) override;
+
+ private:
+  QWidget* fa_data();
+  QWidget* fa_numeri();
+  QWidget* fa_comandi();
+  QWidget* fa_strumenti();
+  QWidget* fa_ditta();
+  QLabel* scritta(const QString& nome, Scritta& stato);
+  void continua();
+
+  Programma& programma_;
+  B_Inizio inizio_;
+  Quadro* quadro_;
+  CasellaTesto* giorno_ = nullptr;
+};

@@ -1,0 +1,19 @@
+#include <QApplication>
+#include <QFile>
+
+#include "platform/piattaforma_qt.h"
+#include "tools/finestra_generatore.h"
+
+// The list generator of the firm whose folder it stands in.
+int main(int argomenti, char** valori) {
+  const QApplication applicazione(argomenti, valori);
+  Piattaforma_Qt piattaforma;
+  Programma programma(piattaforma);
+  programma.Nome_Programma = "Velmara_2020_Descri";
+  programma.Cartella_Dati = QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString();
+  programma.Separatore_Decimale = piattaforma.Separatore_Decimale();
+  programma.Separatore_Altro = programma.Separatore_Decimale == '.' ? ',' : '.';
+  Finestra_Generatore finestra(programma);
+  finestra.show();
+  return QApplication::exec();
+}
