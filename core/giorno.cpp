@@ -152,7 +152,7 @@ void Scegli_File_Giorno(Programma& programma) {
 bool Carica_Giorno(Programma& programma) {
   int errore = 0;
   const auto contenuto = programma.disco.Leggi(programma.File_Giorno, &errore);
-  if (!contenuto && errore != ENOENT) {
+  if (!contenuto && errore != ENOENT && errore != ENOTDIR) {
     Di_Errore_File(programma, errore, "la lettura", programma.File_Giorno);
     return false;
   }
@@ -182,6 +182,7 @@ void Leggi_Ultimi_Numeri(Programma& programma) {
   const std::array<std::int32_t*, 4> numeri = {&programma.Ultimo_CV, &programma.Ultimo_DDT,
                                                &programma.Ultima_NA, &programma.Ultima_Fattura};
   for (std::int32_t* numero : numeri) *numero = 0;
+  programma.Numeri_Ignoti = false;
   int errore = 0;
   const auto contenuto = programma.disco.Leggi(File_Numeri(programma), &errore);
   if (errore == ENOENT) {
@@ -190,6 +191,7 @@ void Leggi_Ultimi_Numeri(Programma& programma) {
     return;
   }
   if (!contenuto) {
+    programma.Numeri_Ignoti = true;
     Di_Errore_File(programma, errore, "la lettura", File_Numeri(programma));
     return;
   }
@@ -199,7 +201,16 @@ void Leggi_Ultimi_Numeri(Programma& programma) {
 }
 
 bool Salva_Ultimi_Numeri(Programma& programma) {
+  if (programma.Numeri_Ignoti) {
+    programma.piattaforma.Messaggio(
+        "Gli ultimi numeri emessi non si sono potuti leggere all'avvio:\n"
+        "il loro file non viene riscritto, o gli stessi numeri uscirebbero due volte.\n"
+        "Chiudere il programma, controllare il file e riavviare.\n" +
+        Testo_Percorso(File_Numeri(programma)));
+    return false;
+  }
   const int errore = Scrivi_Numeri(programma, intestazione_ncv);
+  programma.Numeri_Da_Salvare = errore != 0;
   if (errore != 0) Di_Errore_Salvataggio(programma, errore);
   return errore == 0;
 }

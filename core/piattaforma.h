@@ -7,6 +7,8 @@
 #include "core/disco.h"
 #include "core/testo.h"
 
+class Printer;  // the page device, printing/dispositivo.h
+
 enum class Icona { Nessuna, Informazione, Esclamazione, Domanda };
 
 struct Volume {
@@ -44,6 +46,9 @@ class Piattaforma {
   virtual Testo Appunti() = 0;             // the clipboard's text
   virtual std::vector<Volume> Volumi() = 0;
   virtual std::optional<Stampante> Stampante_Corrente() = 0;
+  // The one page device that all print routines draw on, of which a printer is chosen in the menu
+  // "Stampante".
+  virtual Printer& Dispositivo() = 0;
 
   // Starts a program and doesn't wait for it; false when it didn't start.
   virtual bool Avvia_Programma(const Percorso& programma, const std::vector<Testo>& argomenti = {}) = 0;

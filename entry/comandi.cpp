@@ -3,6 +3,9 @@
 #include <array>
 
 #include "core/profili.h"
+#include "entry/aiuto.h"
+#include "entry/liste_campi.h"
+#include "entry/ordinamenti.h"
 
 namespace {
 
@@ -25,6 +28,15 @@ Stato_Comando Del_Lotto(const Programma&, const Edita& edita) {
   return {!Occupata(edita) && lotti.attivo, lotti.visibile};
 }
 
+Stato_Comando Del_Bottone_Lista(const Programma&, const Edita& edita) {
+  return {!Occupata(edita), edita.bottoni_liste};
+}
+
+Stato_Comando Degli_Esclusi(const Programma& programma, const Edita& edita) {
+  const Profilo profilo = Profilo_Ditta(programma.preferenze.Codice_Commissionario);
+  return {!Occupata(edita), profilo == Profilo::Lagomar || profilo == Profilo::Rovigal};
+}
+
 const std::vector<Voce_Comando>& Futuri() {
   static const std::vector<Voce_Comando> voci = {
       {"Conti_Vendita", "Conti Ven&dita F2", "", Tasto::F2},
@@ -39,104 +51,99 @@ const std::vector<Voce_Comando>& Futuri() {
       {"Stat", "Stat", "", Tasto::Altro},
       {"Stat2", "Stat2", "", Tasto::Altro},
       {"Etichetta", "Etichetta", "Stampa Etichetta", Tasto::Altro},
-      {"Nasconde_Bottoni", "Mostra/Nasconde bottoni",
-       "nasconde i bottoni...usare il tasto destro del mouse...", Tasto::Altro},
-      {"Riduce_Edita", "Riduce finestra Edita", "", Tasto::Altro},
-      {"Esclusi", "Esclusi", "", Tasto::Altro},
-      {"Escludi_Codice", "Escludi questo codice", "", Tasto::Altro},
   };
   return voci;
 }
 
-// "Esclusi" belongs to two firms; the two document buttons and "Detto" follow their settings.
+// The two document buttons follow their settings.
 bool FuturoVisibile(const Programma& programma, Vista nome) {
   const Preferenze& preferenze = programma.preferenze;
-  if (nome == "Esclusi") {
-    const Profilo profilo = Profilo_Ditta(preferenze.Codice_Commissionario);
-    return profilo == Profilo::Lagomar || profilo == Profilo::Rovigal;
-  }
   if (nome == "DSI") return preferenze.FlagDSimmediato;
   if (nome == "DSI_Riga") return preferenze.FlagDSimmediatoUR;
   return true;
 }
 
 const std::vector<Regola>& Regole() {
-  static const std::vector<Regola> regole = {
-      {{"Elimina", "&Elimina F3", "", Tasto::F3}, Del_Bottone<&Edita::Elimina>},
-      {{"Modifica", "&Modifica F4", "", Tasto::F4}, Del_Bottone<&Edita::Modifica>},
-      {{"Aggiungi", "Ag&giungi F5", "", Tasto::F5}, Del_Bottone<&Edita::Aggiungi>},
-      {{"Salva", "Sal&va F7", "", Tasto::F7}, Del_Bottone<&Edita::Salva>},
-      {{"RigaPrecedente", "<", "", Tasto::F8}, Sempre},
-      {{"RigaSuccessiva", ">", "", Tasto::F9}, Sempre},
-      {{"Pulisci", "Pulisci", "", Tasto::Altro}, Sempre},
-      {{"Command25", "", "", Tasto::Altro}, Del_Lotto},
-      {{"BottoneDDT", "DDT", "modificare il numero del documento di trasporto o sanitario", Tasto::Altro},
-       Del_Bottone<&Edita::BottoneDDT>},
-      {{"BottoneFAT", "N.Fat", "modificail numero di fattura", Tasto::Altro},
-       Del_Bottone<&Edita::BottoneFAT>},
-      {{"Lotti", "Lotti", "", Tasto::Altro}, Sempre},
-      {{"Imposta_Lotti", "lotti", "Imposta lista Lotti", Tasto::Altro}, Del_Lotto},
-      {{"Memorizza_Fornitore", "Memorizza Fornitore Predefinito", "Salva una Macro con il Fornitore...",
-        Tasto::Altro},
-       Sempre},
-      {{"Memorizza_Specie", "Memorizza Specie Predefinita", "Salva una Macro con la Specie...", Tasto::Altro},
-       Sempre},
-      {{"Chiudi", "&Chiudi", "", Tasto::Altro}, Sempre},
-  };
+  static const std::vector<Regola> regole = [] {
+    std::vector<Regola> tutte = {
+        {{"Elimina", "&Elimina F3", "", Tasto::F3}, Del_Bottone<&Edita::Elimina>},
+        {{"Modifica", "&Modifica F4", "", Tasto::F4}, Del_Bottone<&Edita::Modifica>},
+        {{"Aggiungi", "Ag&giungi F5", "", Tasto::F5}, Del_Bottone<&Edita::Aggiungi>},
+        {{"Salva", "Sal&va F7", "", Tasto::F7}, Del_Bottone<&Edita::Salva>},
+        {{"RigaPrecedente", "<", "", Tasto::F8}, Sempre},
+        {{"RigaSuccessiva", ">", "", Tasto::F9}, Sempre},
+        {{"Pulisci", "Pulisci", "", Tasto::Altro}, Sempre},
+        {{"Command25", "", "", Tasto::Altro}, Del_Lotto},
+        {{"BottoneDDT", "DDT", "modificare il numero del documento di trasporto o sanitario", Tasto::Altro},
+         Del_Bottone<&Edita::BottoneDDT>},
+        {{"BottoneFAT", "N.Fat", "modificail numero di fattura", Tasto::Altro},
+         Del_Bottone<&Edita::BottoneFAT>},
+        {{"Lotti", "Lotti", "", Tasto::Altro}, Sempre},
+        {{"Imposta_Lotti", "lotti", "Imposta lista Lotti", Tasto::Altro}, Del_Lotto},
+        {{"Memorizza_Fornitore", "Memorizza Fornitore Predefinito", "Salva una Macro con il Fornitore...",
+          Tasto::Altro},
+         Sempre},
+        {{"Memorizza_Specie", "Memorizza Specie Predefinita", "Salva una Macro con la Specie...",
+          Tasto::Altro},
+         Sempre},
+        {{"Nasconde_Bottoni", "Mostra/Nasconde bottoni",
+          "nasconde i bottoni...usare il tasto destro del mouse...", Tasto::Altro},
+         Sempre},
+        {{"Riduce_Edita", "Riduce finestra Edita", "", Tasto::Altro}, Sempre},
+        {{"Esclusi", "Esclusi", "", Tasto::Altro}, Degli_Esclusi},
+        {{"Escludi_Codice", "Escludi questo codice", "", Tasto::Altro}, Sempre},
+        {{"Chiudi", "&Chiudi", "", Tasto::Altro}, Sempre},
+    };
+    for (const Finestra_Campo& finestra : Finestre_Campi())
+      tutte.push_back({{finestra.nome, "...", finestra.didascalia, Tasto::Altro}, Del_Bottone_Lista});
+    return tutte;
+  }();
   return regole;
 }
 
+void Accoda_Ordini(std::vector<Voce_Menu>& voci) {
+  for (const Ordinamento& ordine : Ordinamenti())
+    voci.push_back({"&Ordina", ordine.voce, ordine.nome, true, Tasto::Altro});
+}
+
+// The helps in their order, with the commands that stand among them.
+void Accoda_Aiuti(std::vector<Voce_Menu>& voci) {
+  for (const Voce_Aiuto& aiuto : Aiuti()) {
+    if (aiuto.nome == "Aiuto_Etichette") {
+      voci.push_back({"Help", "Campi", "Aiuto_Campi", true, Tasto::Altro});
+      voci.push_back({"Help", "Stampa Liste", "Stampa_Liste", false, Tasto::Altro});
+      voci.push_back({"Help", "salva lista Specie", "Salva_Lista_Specie", true, Tasto::Altro});
+    }
+    voci.push_back({"Help", aiuto.voce, aiuto.nome, true, Tasto::Altro});
+  }
+}
+
 const std::vector<Voce_Menu>& Voci_Menu() {
-  static const std::vector<Voce_Menu> voci = {
-      {"File", "Cancella Tutto", "Cancella_Tutto", false, Tasto::Altro},
-      {"File", "Salva", "Salva", true, Tasto::Altro},
-      {"File", "Controllo CV", "Controllo_CV", false, Tasto::Altro},
-      {"File", "Chiudi", "Chiudi", true, Tasto::Altro},
-      {"Pref.", "Preferenze Operative", "Preferenze_Operative", true, Tasto::Altro},
-      {"Pref.", "Preferenze per Doc. Sanitario e DDI", "Preferenze_Documenti", false, Tasto::Altro},
-      {"Pref.", "Preferenze Fatture Personalizzate", "Preferenze_Fatture", false, Tasto::Altro},
-      {"Pref.", "Stampante", "Stampante", false, Tasto::Altro},
-      {"Pref.", "Colore Lista", "Colore_Lista", true, Tasto::Altro},
-      {"Pref.", "Rinnova Liste", "Rinnova_Liste", false, Tasto::Altro},
-      {"Mappe", "Mediterraaneo FAO 37", "Mappa", false, Tasto::F1},
-      {"Mappe", "Tutto l Mondo", "MappaMondo", false, Tasto::F11},
-      {"&Ordina", "Per Immissione", "Ordina_Immissione", false, Tasto::Altro},
-      {"&Ordina", "Per Fornitore", "Ordina_Fornitore", false, Tasto::Altro},
-      {"&Ordina", "Per Cliente", "Ordina_Cliente", false, Tasto::Altro},
-      {"&Ordina", "Per Cliente e specie", "Ordina_Cliente_Specie", false, Tasto::Altro},
-      {"&Ordina", "per Codice Cliente", "Ordina_CodCliente", false, Tasto::Altro},
-      {"&Ordina", "Per Specie", "Ordina_Specie", false, Tasto::Altro},
-      {"&Ordina", "Per Prezzo", "Ordina_Prezzo", false, Tasto::Altro},
-      {"&Ordina", "Per Num. Conto Vendita", "Ordina_NCV", false, Tasto::Altro},
-      {"&Ordina", "Per Provenienza", "Ordina_Prov", false, Tasto::Altro},
-      {"&Ordina", "per aliquota IVA", "Ordina_Iva", false, Tasto::Altro},
-      {"&Ordina", "Per Fattura", "Ordina_FAT", false, Tasto::Altro},
-      {"&Ordina", "Per DDT", "Ordina_DDT", false, Tasto::Altro},
-      {"&Ordina", "Per Fornitore+Specie+Immissione", "Ordina_Fornitore_Specie", false, Tasto::Altro},
-      {"&Ordina", "Per Attrezzo di pesca", "Ordina_MetodoPesca", false, Tasto::Altro},
-      {"&Ordina", "Per Pezzatura", "Ordina_Pezzatura", false, Tasto::Altro},
-      {"&Ordina", "Per Stato Fisico", "Ordina_StatoFisico", false, Tasto::Altro},
-      {"&Ordina", "Per Lavorazione", "Ordina_Lavorazione", false, Tasto::Altro},
-      {"&Ordina", "Per Preparazione", "Ordina_Preparazione", false, Tasto::Altro},
-      {"&Ordina", "Come Doc Sanitario", "Ordina_DocSani", false, Tasto::Altro},
-      {"PrefSpecie", "", "PrefSpecie", true, Tasto::Altro},
-      {"PrefFornitori", "", "PrefFornitori", true, Tasto::Altro},
-      {"&Lista_F12", "", "Lista_F12", true, Tasto::F12},
-      {"Help", "Aiuto", "Aiuto", false, Tasto::Altro},
-      {"Help", "Lotti", "Aiuto_Lotti", false, Tasto::Altro},
-      {"Help", "Fatture 1", "Aiuto_Fatture_1", false, Tasto::Altro},
-      {"Help", "Fatture 2", "Aiuto_Fatture_2", false, Tasto::Altro},
-      {"Help", "Transazioni", "Aiuto_Transazioni", false, Tasto::Altro},
-      {"Help", "Numerazione DDT e DS", "Aiuto_Numerazione", false, Tasto::Altro},
-      {"Help", "Specie e Fornitori Predefiniti", "Aiuto_Predefiniti", false, Tasto::Altro},
-      {"Help", "Prezzo per cassa", "Aiuto_Prezzo_Cassa", false, Tasto::Altro},
-      {"Help", "Export Prima Nota Esteso", "Aiuto_Export", false, Tasto::Altro},
-      {"Help", "Campi", "Aiuto_Campi", false, Tasto::Altro},
-      {"Help", "Stampa Liste", "Stampa_Liste", false, Tasto::Altro},
-      {"Help", "salva lista Specie", "Salva_Lista_Specie", false, Tasto::Altro},
-      {"Help", "Etichette", "Aiuto_Etichette", false, Tasto::Altro},
-      {"Marca", "", "Marca", true, Tasto::Altro},
-  };
+  static const std::vector<Voce_Menu> voci = [] {
+    std::vector<Voce_Menu> tutte = {
+        {"File", "Cancella Tutto", "Cancella_Tutto", true, Tasto::Altro},
+        {"File", "Salva", "Salva", true, Tasto::Altro},
+        {"File", "Controllo CV", "Controllo_CV", false, Tasto::Altro},
+        {"File", "Chiudi", "Chiudi", true, Tasto::Altro},
+        {"Pref.", "Preferenze Operative", "Preferenze_Operative", true, Tasto::Altro},
+        {"Pref.", "Preferenze per Doc. Sanitario e DDI", "Preferenze_Documenti", false, Tasto::Altro},
+        {"Pref.", "Preferenze Fatture Personalizzate", "Preferenze_Fatture", false, Tasto::Altro},
+        {"Pref.", "Stampante", "Stampante", false, Tasto::Altro},
+        {"Pref.", "Colore Lista", "Colore_Lista", true, Tasto::Altro},
+        {"Pref.", "Rinnova Liste", "Rinnova_Liste", true, Tasto::Altro},
+        {"Mappe", "Mediterraaneo FAO 37", "Mappa", true, Tasto::F1},
+        {"Mappe", "Tutto l Mondo", "MappaMondo", true, Tasto::F11},
+    };
+    Accoda_Ordini(tutte);
+    tutte.insert(tutte.end(), {
+                                  {"PrefSpecie", "", "PrefSpecie", true, Tasto::Altro},
+                                  {"PrefFornitori", "", "PrefFornitori", true, Tasto::Altro},
+                                  {"&Lista_F12", "", "Lista_F12", true, Tasto::F12},
+                              });
+    Accoda_Aiuti(tutte);
+    tutte.push_back({"Marca", "", "Marca", true, Tasto::Altro});
+    return tutte;
+  }();
   return voci;
 }
 

@@ -207,6 +207,8 @@ void ComponiCodici(Edita& edita) {
 
 void ConvertiCassa(const Programma& programma, Edita& edita) {
   if (!PrezzoPerCassa(edita)) return;
+  // After a cancelled question about the boxes the field is empty, and what was keyed stays as it was.
+  if (Pulito(Campo(edita, CampoRiga::Colli).testo).empty()) return;
   const auto prezzo = LeggiPrezzo(programma, edita);
   const auto chili = LeggiNumero(programma, edita, CampoRiga::Peso);
   const auto casse = LeggiNumero(programma, edita, CampoRiga::Colli);

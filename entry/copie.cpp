@@ -29,6 +29,9 @@ const std::array<Testo, N>* RigaLista(const TabellaLista<N>& tabella, int r) {
                                                                 : nullptr;
 }
 
+// The list windows hold the screen while they are open, and it is they that copy.
+bool Chiusa_Alle_Copie(const Edita& edita) { return Occupata(edita) && edita.campo_lista_aperta < 0; }
+
 }  // namespace
 
 Testo NomeSpecie(Vista descrizione) {
@@ -46,30 +49,41 @@ void CompilaSpecie(Programma& programma, Edita& edita, Vista nome) {
 }
 
 void CopiaSpecie(Programma& programma, Edita& edita, int r) {
-  const auto* riga = RigaLista(programma.Vet_Specie, r);
-  if (riga == nullptr || Occupata(edita)) return;
-  CompilaDaRiga(programma, edita, *riga);
-  CopiaVoce(edita, CampoRiga::Specie, NomeSpecie((*riga)[specie::Descrizione]));
+  if (const auto* riga = RigaLista(programma.Vet_Specie, r)) CopiaSpecie(programma, edita, *riga);
+}
+
+void CopiaSpecie(Programma& programma, Edita& edita, const std::array<Testo, 8>& riga) {
+  if (Chiusa_Alle_Copie(edita)) return;
+  CompilaDaRiga(programma, edita, riga);
+  CopiaVoce(edita, CampoRiga::Specie, NomeSpecie(riga[specie::Descrizione]));
 }
 
 void CopiaFornitore(Programma& programma, Edita& edita, int r) {
-  const auto* riga = RigaLista(programma.Vet_Fornitori, r);
-  if (riga == nullptr || Occupata(edita)) return;
+  if (const auto* riga = RigaLista(programma.Vet_Fornitori, r))
+    CopiaFornitore(programma, edita, (*riga)[fornitore::RagioneSociale1], (*riga)[fornitore::Provvigione]);
+}
+
+void CopiaFornitore(Programma& programma, Edita& edita, Vista nome, Vista provvigione) {
+  if (Chiusa_Alle_Copie(edita)) return;
   Campo(edita, CampoRiga::Provvigione).testo =
-      Correggi_Separatore((*riga)[fornitore::Provvigione], programma.Separatore_Decimale);
-  CopiaVoce(edita, CampoRiga::Fornitore, (*riga)[fornitore::RagioneSociale1]);
+      Correggi_Separatore(provvigione, programma.Separatore_Decimale);
+  CopiaVoce(edita, CampoRiga::Fornitore, nome);
   LottoAutomatico(programma, edita);
 }
 
 void CopiaCliente(Programma& programma, Edita& edita, int r) {
-  const auto* riga = RigaLista(programma.Vet_Clienti, r);
-  if (riga == nullptr || Occupata(edita)) return;
-  Campo(edita, CampoRiga::CodCliente).testo = (*riga)[cliente::Codice];
-  CopiaVoce(edita, CampoRiga::Cliente, (*riga)[cliente::RagioneSociale1]);
+  if (const auto* riga = RigaLista(programma.Vet_Clienti, r))
+    CopiaCliente(edita, (*riga)[cliente::RagioneSociale1], (*riga)[cliente::Codice]);
+}
+
+void CopiaCliente(Edita& edita, Vista nome, Vista codice) {
+  if (Chiusa_Alle_Copie(edita)) return;
+  Campo(edita, CampoRiga::CodCliente).testo = codice;
+  CopiaVoce(edita, CampoRiga::Cliente, nome);
 }
 
 void CopiaVoce(Edita& edita, CampoRiga campo, Vista voce) {
-  if (Occupata(edita)) return;
+  if (Chiusa_Alle_Copie(edita)) return;
   Campo(edita, campo).testo = voce;
   SegnaCambiamento(edita, Indice(campo));
 }

@@ -64,6 +64,7 @@ void PreparaCaselle(const Programma& programma, Edita& edita) {
   Campo(edita, CampoRiga::CodCliente).attivo = !edita.Check[7].segnata;
 }
 
+// The fields of the numbers given by hand, closed until their button opens them.
 void PreparaNumeriManuali(const Programma& programma, Edita& edita) {
   const bool mostra = programma.preferenze.FlagAggDDT;
   for (const CampoRiga campo : {CampoRiga::DDT, CampoRiga::FAT}) {
@@ -103,9 +104,11 @@ void Rinnova(Edita& edita) {
 
 void CollegaElenco(const Programma& programma, Edita& edita) {
   edita.albero.Titoli.Riempi({TitoliVoci()});
-  edita.albero.ListaVoci.Collega(
-      [&programma] { return programma.Vet_Tabella.righe.size(); },
-      [&programma](std::size_t i) { return RigaVoci(programma, static_cast<int>(i) + 1); });
+  edita.albero.ListaVoci.Collega([&programma] { return programma.Vet_Tabella.righe.size(); },
+                                 [&programma, &edita](std::size_t i) {
+                                   if (i == 0 && edita.riga_marcata) return "001 | " + Testo(Riga_Vuota);
+                                   return RigaVoci(programma, static_cast<int>(i) + 1);
+                                 });
 }
 
 // Folders that later documents of the day write to; a failure is told, and the day can be keyed all the same.
@@ -187,6 +190,11 @@ void Chiudi_Edita(Programma& programma, Edita& edita) {
   edita.List1.visibile = false;
   edita.pronta = false;
   programma.Edita_Aperta = false;
+}
+
+void PreferenzeCambiate(Programma& programma, Edita& edita) {
+  PreparaNumeriManuali(programma, edita);
+  SegnoPrezzo(programma, edita);
 }
 
 void CaricaRiga(Programma& programma, Edita& edita) {

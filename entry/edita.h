@@ -14,14 +14,18 @@ enum class StatoSemaforo { NORMALE, BENE, ERRORE };
 Vista Parola(StatoSemaforo stato);  // "NORMALE", "BENE", "ERRORE"
 
 // A window that the logic asks for; the screen's window opens it and clears the request.
-// The macros by a "-" in their field, the same lists by their menus, and the predefined lots.
+// The macros by a "-" in their field, the same lists by their menus, the predefined lots, the list of a field
+// and the maps of the fishing zones.
 enum class Richiesta {
   Nessuna,
   Macro_Fornitore,
   Macro_Specie,
   Elenco_Fornitori,
   Elenco_Specie,
-  Lotti_Predefiniti
+  Lotti_Predefiniti,
+  Lista_Campo,  // of the field `campo_lista_aperta`
+  Mappa_Mediterraneo,
+  Mappa_Mondo
 };
 
 struct Albero {
@@ -58,6 +62,10 @@ struct Edita {
   static constexpr int nessun_fuoco = -1, fuoco_List1 = -2, fuoco_schermo = -3;
   Richiesta richiesta = Richiesta::Nessuna;
   bool filtro_in_corso = false;  // the look-up list is being filled
+  bool riga_marcata = false;     // row 1 is listed as one to be keyed, though the table has no mark
+  bool bottoni_liste = true;     // the small buttons beside the fields are shown
+  int campo_lista_aperta = -1;   // index of the field whose list window stands open
+  bool campo_era_attivo = true;  // what that field was before
   bool caselle_marcate = false;  // what the menu "Marca" did last; its caption is then "SMarca"
 };
 
@@ -80,6 +88,8 @@ void Apri_Edita(Programma& programma, Edita& edita);
 // The closing: asks for a save when rows changed, stores Flag5 to Flag7. When the save fails the screen stays
 // open (Edita_Aperta and `pronta` stay set), so that the operator can try again.
 void Chiudi_Edita(Programma& programma, Edita& edita);
+// The preferences were stored while the screen is open: the fields that they show or hide follow.
+void PreferenzeCambiate(Programma& programma, Edita& edita);
 void CaricaRiga(Programma& programma, Edita& edita);  // row hd into the fields
 // The operator moved the scroll bar or clicked a line: that row is loaded, also when it was selected already.
 void CambiaHd(Programma& programma, Edita& edita, int valore);
@@ -147,8 +157,11 @@ void SegnoPrezzo(Programma& programma, Edita& edita);  // the sign rule of the p
 void CompilaSpecie(Programma& programma, Edita& edita, Vista nome);
 // An entry of a list window or map copied into the row being keyed; `r` is its row in the table, from 0.
 void CopiaFornitore(Programma& programma, Edita& edita, int r);  // with commission and automatic lot
+void CopiaFornitore(Programma& programma, Edita& edita, Vista nome, Vista provvigione);
 void CopiaCliente(Programma& programma, Edita& edita, int r);
+void CopiaCliente(Edita& edita, Vista nome, Vista codice);
 void CopiaSpecie(Programma& programma, Edita& edita, int r);
+void CopiaSpecie(Programma& programma, Edita& edita, const std::array<Testo, 8>& riga);
 void CopiaVoce(Edita& edita, CampoRiga campo, Vista voce);  // zone, provenance, the coded lists
 // What of a description goes into Specie: "Orata (Grande)" is "Orata".
 Testo NomeSpecie(Vista descrizione);
@@ -160,6 +173,8 @@ bool PrezzoPerCassa(const Edita& edita);
 std::optional<double> LeggiNumero(const Programma& programma, const Edita& edita, CampoRiga campo);
 
 // ---- checks and commit (convalida.cpp, righe.cpp)
+
+void TitoloVoci(const Programma& programma, Edita& edita);  // the caption with the number of rows
 
 int ValidaRiga(Programma& programma, Edita& edita, Vista modo);  // 0 good, 1 fault, 999 refused and told
 void ComponiCodici(Edita& edita);

@@ -1,13 +1,14 @@
 #include "entry/elenco_macro.h"
 
 #include <cerrno>
+#include <span>
 
 #include "lists/file_lista.h"
 
 namespace {
 
 constexpr Vista estensione = ".txt";
-constexpr std::size_t largo_codice = 10, largo_testo = 20;
+constexpr std::size_t largo_codice = 10;
 
 struct Colonna_Letta {
   colonna_macro::Colonna colonna;
@@ -20,15 +21,23 @@ constexpr Colonna_Letta intere[] = {
 constexpr CampoRiga codici[] = {CampoRiga::MetodoPesca, CampoRiga::Pezzatura, CampoRiga::StatoFisico,
                                 CampoRiga::Lavorazione, CampoRiga::Preparazione};
 
-// The columns of a line behind the code, each of 20 characters; the first ones stand in small letters.
-struct Forma_Linea {
-  std::vector<colonna_macro::Colonna> minuscole, intere;
+// A column of a line, behind the code.
+struct Colonna_Linea {
+  colonna_macro::Colonna colonna;
+  std::size_t largo;
+  bool minuscola;
 };
+constexpr Colonna_Linea linea_specie[] = {
+    {colonna_macro::Specie, 20, true}, {colonna_macro::ZonaP, 20, false}, {colonna_macro::Prov, 20, false}};
+// narrower, so that the lot at the end stands in sight
+constexpr Colonna_Linea linea_fornitore[] = {{colonna_macro::Fornitore, 20, true},
+                                             {colonna_macro::Specie, 20, true},
+                                             {colonna_macro::ZonaP, 10, false},
+                                             {colonna_macro::Prov, 12, false}};
 
-Forma_Linea Colonne(Tipo_Macro tipo) {
-  using namespace colonna_macro;
-  if (tipo == Tipo_Macro::Fornitore) return {{Fornitore, Specie}, {ZonaP, Prov}};
-  return {{Specie}, {ZonaP, Prov}};
+std::span<const Colonna_Linea> Colonne(Tipo_Macro tipo) {
+  if (tipo == Tipo_Macro::Fornitore) return linea_fornitore;
+  return linea_specie;
 }
 
 using Riga_Elenco = std::array<Testo, 8>;
@@ -45,11 +54,9 @@ Riga_Elenco Riga_Letta(Tipo_Macro tipo, Vista codice, Vista contenuto) {
 
 Testo Linea(Tipo_Macro tipo, const Riga_Elenco& riga) {
   constexpr Vista sep = " | ";
-  const Forma_Linea forma = Colonne(tipo);
   Testo linea = Pad(riga[colonna_macro::Codice], largo_codice);
-  for (const auto colonna : forma.minuscole)
-    linea.append(sep).append(Pad(Minuscolo(riga[colonna]), largo_testo));
-  for (const auto colonna : forma.intere) linea.append(sep).append(Pad(riga[colonna], largo_testo));
+  for (const auto& [colonna, largo, minuscola] : Colonne(tipo))
+    linea.append(sep).append(Pad(minuscola ? Minuscolo(riga[colonna]) : riga[colonna], largo));
   linea.append(sep).append(riga[colonna_macro::Codici]).append(Pad(riga[colonna_macro::Alfa], 3));
   if (tipo == Tipo_Macro::Fornitore) linea.append(sep).append(riga[colonna_macro::Lotti]);
   return linea;
@@ -106,8 +113,9 @@ void Leggi_ElencoMacro(Programma& programma, Elenco_Macro& elenco) {
   for (const Percorso& nome : programma.disco.Elenca(cartella, "*.txt")) {
     const Testo testo = Testo_Percorso(nome);
     const Vista codice = Vista(testo).substr(0, testo.size() - estensione.size());
-    // a name from elsewhere that no code can call would only make a line that does nothing
-    if (In_Percorso(testo) != nome || Pulito(codice) != codice || !Codice_Macro_Lecito(codice)) continue;
+    // a name from elsewhere that no code can call, also one outside the code page, would only make a line
+    // that does nothing
+    if (Pulito(codice) != codice || !Codice_Macro_Lecito(codice)) continue;
     const auto contenuto = programma.disco.Leggi(File_Macro(programma, elenco.tipo, codice));
     elenco.tabella.push_back(Riga_Letta(elenco.tipo, codice, contenuto.value_or(Testo())));
   }
@@ -182,8 +190,7 @@ void RinominaMacro(Programma& programma, Elenco_Macro& elenco) {
   const Vista pulita = Pulito(risposta ? Vista(*risposta) : Vista());
   if (pulita.size() < 2) return;
   const Testo nuovo = Codice_Scritto(pulita, programma.Separatore_Decimale);
-  if (!Codice_Macro_Lecito(nuovo))
-    return programma.piattaforma.Messaggio("il codice non può contenere / \\ : * ? \" < > | .."_t);
+  if (!Codice_Macro_Lecito(nuovo)) return programma.piattaforma.Messaggio(Difetto_Codice_Macro());
   const Percorso da = File_Macro(programma, elenco.tipo, *codice);
   const Percorso a = File_Macro(programma, elenco.tipo, nuovo);
   const int errore = programma.disco.Esiste_File(a) ? EEXIST : programma.disco.Rinomina(da, a);

@@ -16,3 +16,15 @@ class Schermo_Fermo {
   Edita& edita_;
   bool era_attiva_;
 };
+
+// The busy pointer.
+class Clessidra {
+ public:
+  explicit Clessidra(Piattaforma& piattaforma) : piattaforma_(piattaforma) { piattaforma_.Occupato(true); }
+  ~Clessidra() { piattaforma_.Occupato(false); }
+  Clessidra(const Clessidra&) = delete;
+  Clessidra& operator=(const Clessidra&) = delete;
+
+ private:
+  Piattaforma& piattaforma_;
+};

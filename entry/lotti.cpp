@@ -27,6 +27,7 @@ bool CampiComeLaRiga(const Programma& programma, const Edita& edita) {
 
 // Runs over the rows; the supplier that stopped it, nothing when all rows were done.
 std::optional<Testo> ScriviLotti(Programma& programma, Vista data) {
+  const Clessidra clessidra(programma.piattaforma);
   for (LedgerRow& riga : programma.Vet_Tabella.righe) {
     if (E_Segnaposto(riga)) continue;
     const Testo fornitore(Pulito(riga[CampoRiga::Fornitore]));
@@ -62,9 +63,7 @@ void AttribuisciLotti(Programma& programma, Edita& edita) {
           "Questa procedura attribuisce automaticamente un numero di lotto\n a ciascuna specie. Il lotto è formato dal codice del fornitore + \nla data del giono precedente questa prima nota.\ni lotti relativi alle rimanenze dovranno essere modificati manualmente.\nOK per continuare...."_t))
     return;
   const bool campi_intatti = CampiComeLaRiga(programma, edita);
-  programma.piattaforma.Occupato(true);
   const auto senza_codice = ScriviLotti(programma, data);
-  programma.piattaforma.Occupato(false);
   edita.albero.ListaVoci.Cambiato();
   // or F4 would put the old lot back into the row
   if (campi_intatti) CaricaRiga(programma, edita);
@@ -82,6 +81,7 @@ void Apri_LottiPredefiniti(Programma& programma, Lotti_Predefiniti& lista) {
   lista.Text1.suggerimento = "doppio click: la data di oggi";
   lista.chiusa = false;
   if (lista.lotti.empty()) LeggiLotti(programma, lista);
+  if (lista.List1.scelta < 0 && !lista.lotti.empty()) lista.List1.scelta = 0;
 }
 
 void AggiungiLotto(Lotti_Predefiniti& lista) {

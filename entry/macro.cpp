@@ -115,7 +115,7 @@ void LottoDellaMacro(Programma& programma, Edita& edita) {
 std::optional<Testo> DifettoParola(const Forma_Macro& forma, Vista parola) {
   if (parola.size() < forma.minimo) return "almeno 2 caratteri...";
   if (parola.find(' ') != Vista::npos) return Testo(forma.con_spazi);
-  if (!Codice_Macro_Lecito(parola)) return "il codice non può contenere / \\ : * ? \" < > | .."_t;
+  if (!Codice_Macro_Lecito(parola)) return Difetto_Codice_Macro();
   return std::nullopt;
 }
 
@@ -179,6 +179,8 @@ bool Codice_Macro_Lecito(Vista codice) {
          codice.find("..") == Vista::npos &&
          std::ranges::none_of(codice, [](char c) { return static_cast<unsigned char>(c) < 0x20; });
 }
+
+Testo Difetto_Codice_Macro() { return "il codice non può contenere / \\ : * ? \" < > | .."_t; }
 
 Testo Codice_Scritto(Vista codice, char separatore) {
   const auto numero = Numero(codice, separatore);

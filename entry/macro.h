@@ -30,6 +30,7 @@ Percorso File_Macro(const Programma& programma, Tipo_Macro tipo, Vista codice);
 // False for a code that is no file name: it would leave the folder, or can't stand on the machines that the
 // firms' folders go to.
 bool Codice_Macro_Lecito(Vista codice);
+Testo Difetto_Codice_Macro();  // what the operator is told of such a code
 // The number of a code as it is stored, "07"; codes that are no number above zero stay as they are.
 Testo Codice_Scritto(Vista codice, char separatore);
 

@@ -1,6 +1,7 @@
 #include "core/giorno.h"
 #include "core/numeri.h"
 #include "entry/edita.h"
+#include "entry/impegno.h"
 
 // The commands that change the day's table: add, modify, delete, save, and the numbers given by hand.
 
@@ -21,21 +22,6 @@ class Impegno {
  private:
   Edita& edita_;
 };
-
-class Clessidra {
- public:
-  explicit Clessidra(Piattaforma& piattaforma) : piattaforma_(piattaforma) { piattaforma_.Occupato(true); }
-  ~Clessidra() { piattaforma_.Occupato(false); }
-  Clessidra(const Clessidra&) = delete;
-  Clessidra& operator=(const Clessidra&) = delete;
-
- private:
-  Piattaforma& piattaforma_;
-};
-
-void TitoloVoci(const Programma& programma, Edita& edita) {
-  edita.titolo = "Aggiunge/Modifica/Cancella - n.Voci = " + std::to_string(programma.Vet_Tabella.Righe());
-}
 
 void DicituraRiferimento(Edita& edita) {
   edita.Caption[static_cast<std::size_t>(Indice(CampoRiga::DDT_CV))].testo = "Riferimento DDT";
@@ -164,13 +150,14 @@ bool ModificaRiga(Programma& programma, Edita& edita) {
   if (!programma.preferenze.FlagModificaCV) Togli_Spazi(edita, CampoRiga::Prezzo);
   CampiContoVendita(programma, edita, Positivo(programma, edita));
   Togli_Spazi(edita, CampoRiga::Peso);
-  if (ValidaRiga(programma, edita, "MOD") != 0) {
+  const int esito = ValidaRiga(programma, edita, "MOD");
+  ConvertiCassa(programma, edita);
+  if (esito != 0) {
     edita.attiva = true;
     Semaforo(edita, StatoSemaforo::ERRORE);
     programma.piattaforma.Messaggio("Dati errati o incompleti");
     return false;
   }
-  ConvertiCassa(programma, edita);
   ComponiCodici(edita);
   NumeroDocumentoModificato(programma, edita, n);
   programma.Tabella_Modificata = true;
@@ -234,6 +221,7 @@ void SvuotaSolaRiga(Programma& programma, Edita& edita) {
   programma.Vet_Tabella(CampoRiga::Num, 1) = "0001";
   programma.Vet_Tabella(CampoRiga::Fornitore, 1) = Riga_Vuota;
   programma.Tabella_Modificata = true;
+  edita.riga_marcata = false;
   edita.albero.ListaVoci.Cambiato();
   edita.albero.ListaVoci.scelta = 0;
   Semaforo(edita, StatoSemaforo::BENE);
@@ -241,12 +229,18 @@ void SvuotaSolaRiga(Programma& programma, Edita& edita) {
 
 }  // namespace
 
+void TitoloVoci(const Programma& programma, Edita& edita) {
+  edita.titolo = "Aggiunge/Modifica/Cancella - n.Voci = " + std::to_string(programma.Vet_Tabella.Righe());
+}
+
 void ScriviRiga(Programma& programma, Edita& edita, int n) {
   Predefinito(edita, CampoRiga::DDT_CV, "-");
+  edita.List1.visibile = false;  // the row is done: nothing shall cover the fields of the next one
   Tabella& tabella = programma.Vet_Tabella;
   if (n > tabella.Righe()) tabella.righe.resize(static_cast<std::size_t>(n));
   Campo(edita, CampoRiga::Num).testo = Formato(static_cast<double>(n), "0000", programma.Separatore_Decimale);
   LedgerRow& riga = tabella.Riga(n);
+  if (n == 1) edita.riga_marcata = false;
   for (std::size_t i = 0; i < edita.Text1.size(); ++i) riga.campi[i] = edita.Text1[i].testo;
   edita.albero.ListaVoci.Cambiato();
 }
@@ -274,6 +268,7 @@ void Elimina(Programma& programma, Edita& edita) {
   Semaforo(edita, StatoSemaforo::NORMALE);
   if (!programma.piattaforma.Domanda("OK per cancellare la voce n. " + std::to_string(n))) return;
   tabella.righe.erase(tabella.righe.begin() + (n - 1));
+  if (n == 1) edita.riga_marcata = false;
   programma.Tabella_Modificata = true;
   edita.albero.ListaVoci.Cambiato();
   VaiRiga(programma, edita, n - 1);

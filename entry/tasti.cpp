@@ -1,5 +1,6 @@
 #include "core/numeri.h"
 #include "entry/edita.h"
+#include "entry/liste_campi.h"
 #include "lists/liste.h"
 
 // What the keys do: in a field, on the screen, in the look-up list, and which characters a field takes.
@@ -118,6 +119,9 @@ void ScambiaCliente(Programma& programma, Edita& edita) {
   }
 }
 
+void MappaMediterraneo(Programma&, Edita& edita) { ApriMappa(edita, Richiesta::Mappa_Mediterraneo); }
+void MappaMondo(Programma&, Edita& edita) { ApriMappa(edita, Richiesta::Mappa_Mondo); }
+
 void ModificaSeAttiva(Programma& programma, Edita& edita) {
   if (edita.Modifica.attivo) Modifica(programma, edita);
 }
@@ -126,10 +130,11 @@ struct TastoComando {
   Tasto tasto;
   void (*esegue)(Programma&, Edita&);
 };
-constexpr TastoComando tasti_schermo[] = {{Tasto::F3, Elimina},           {Tasto::F4, ModificaSeAttiva},
-                                          {Tasto::F5, Aggiungi},          {Tasto::F7, Salva},
-                                          {Tasto::F8, RigaPrecedente},    {Tasto::F9, RigaSuccessiva},
-                                          {Tasto::PagSu, ScambiaCliente}, {Tasto::PagGiu, ScambiaCliente}};
+constexpr TastoComando tasti_schermo[] = {
+    {Tasto::F1, MappaMediterraneo}, {Tasto::F3, Elimina},     {Tasto::F4, ModificaSeAttiva},
+    {Tasto::F5, Aggiungi},          {Tasto::F7, Salva},       {Tasto::F8, RigaPrecedente},
+    {Tasto::F9, RigaSuccessiva},    {Tasto::F11, MappaMondo}, {Tasto::PagSu, ScambiaCliente},
+    {Tasto::PagGiu, ScambiaCliente}};
 
 bool Cifra(char c) { return c >= '0' && c <= '9'; }
 

@@ -67,7 +67,8 @@ std::vector<Testo> Valori(const Programma& programma, const SchermoAnagrafica& s
     const bool intatto = r >= 0 && testo == Riga_Di(programma, schermo, static_cast<std::size_t>(r))[i];
     Testo valore = intatto ? testo : Senza_Separatori(testo);
     if (!intatto && !campi[i].bianchi) valore = Testo(Pulito(valore));
-    valori.push_back(valore.empty() ? campi[i].vuoto : std::move(valore));
+    if (valore.empty()) valore = campi[i].vuoto;
+    valori.push_back(std::move(valore));
   }
   return valori;
 }

@@ -79,7 +79,7 @@ struct Anagrafica {
   std::vector<Campo_Anagrafica> campi;  // in the order of the columns; a blank first column is a deleted row
   std::vector<Ordine_Anagrafica> ordini;
   std::vector<Comando_Anagrafica> comandi = {};
-  int colonna_tab = 0;  // where the list shows what stands behind a TAB of its lines, in characters
+  int colonna_tab = 0;           // where the list shows what stands behind a TAB of its lines, in characters
   std::vector<Testo> note = {};  // lines in the editor that tell how an entry is made up
   Accesso_Tabella tabella;
   Testo (*titolo)(std::size_t voci);

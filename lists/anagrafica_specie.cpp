@@ -169,7 +169,6 @@ Anagrafica Descrizione() {
   elenco.comandi = {{"Cerca_Alfa", "Cerca A&LFA", Cerca_Nel_Modulo<Cerca_Codice_Alfa>},
                     {"Cerca_Latino", "Cerca &Nome Latino", Cerca_Nel_Modulo<Cerca_Nome_Latino>},
                     {comando_ufficiali, "Lista &ufficiale", nullptr, true}};
-  elenco.colonna_tab = 24;
   elenco.tabella = {Righe_Tabella, Riga_Tabella, Scrivi_Riga, Accesso<&Programma::Vet_Specie>().ripristino};
   elenco.titolo = [](std::size_t voci) { return "Lista Specie " + std::to_string(voci) + " voci"; };
   elenco.voce = Voce;

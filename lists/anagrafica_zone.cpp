@@ -13,7 +13,7 @@ Anagrafica Descrizione() {
   zone.titolo_modulo = "Aggiungi/Modifica Specie";
   zone.comando_modulo = "Aggiungi/&Modifica";
   zone.campi = {{.didascalia = "Codice - Zona di Cattura"}, {.didascalia = "Denominazione della Zona"}};
-  zone.colonna_tab = 68;
+  zone.colonna_tab = 44;
   zone.tabella = Accesso<&Programma::Vet_Zone>();
   zone.titolo = [](std::size_t) { return Testo("Lista Zone"); };
   zone.voce = [](const Programma& programma, std::size_t r, int) {

@@ -344,11 +344,11 @@ int Bersaglio_Di_Zona(const Mappa_Zone& mappa, Vista zona) {
   std::size_t lunghezza = 0;
   for (std::size_t i = 0; i < mappa.bersagli.size(); ++i) {
     const Bersaglio& bersaglio = mappa.bersagli[i];
-    const bool mondo = mappa.nome == nomi_mappa::Mondo;
-    const Vista parte = mondo ? Vista(bersaglio.numero) : Parte_Fao(bersaglio.zona);
+    const bool aree_intere = mappa.nome == nomi_mappa::Mondo;
+    const Vista parte = aree_intere ? Vista(bersaglio.numero) : Parte_Fao(bersaglio.zona);
     if (parte.size() <= lunghezza || !Inizia(cercata, parte)) continue;
     // 27.1 is not the beginning of 27.10; on the world map everything behind the area is a part of it
-    if (!mondo && cercata.size() > parte.size() && Cifra(cercata[parte.size()])) continue;
+    if (!aree_intere && cercata.size() > parte.size() && Cifra(cercata[parte.size()])) continue;
     trovato = static_cast<int>(i);
     lunghezza = parte.size();
   }

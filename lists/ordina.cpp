@@ -1,6 +1,7 @@
 #include "lists/ordina.h"
 
 #include <algorithm>
+#include <array>
 #include <numeric>
 
 #include "core/numeri.h"
@@ -10,11 +11,6 @@ namespace {
 
 Testo Numero_Riga(std::size_t numero, int cifre) {
   return Pad_Sinistra(std::to_string(numero), static_cast<std::size_t>(cifre), '0');
-}
-
-void Ordina_Tabella(Programma& programma, std::initializer_list<CampoRiga> campi) {
-  programma.Colonna_Ordine = static_cast<int>(*campi.begin());
-  Ordina_Righe(programma.Vet_Tabella.righe, campi);
 }
 
 void Ordina_Per_Prezzo(Programma& programma) {
@@ -54,27 +50,38 @@ Vista Testo_Chiave(const LedgerRow& riga, CampoRiga campo) {
   return campo == CampoRiga::CodiciConsolidare ? Pulito_Destra(testo) : testo;
 }
 
-void Ordina_Colonna(Programma& programma, CampoRiga campo) {
-  if (campo != CampoRiga::Prezzo) return Ordina_Tabella(programma, {campo});
-  programma.Colonna_Ordine = static_cast<int>(campo);
-  Ordina_Per_Prezzo(programma);
+void Ordina_Tabella(Programma& programma, std::span<const CampoRiga> campi) {
+  if (campi.empty()) return;
+  programma.Colonna_Ordine = static_cast<int>(campi.front());
+  if (campi.size() == 1 && campi.front() == CampoRiga::Prezzo) return Ordina_Per_Prezzo(programma);
+  Ordina_Righe(programma.Vet_Tabella.righe, campi);
 }
 
-void OrdinaDue(Programma& programma, CampoRiga c1, CampoRiga c2) { Ordina_Tabella(programma, {c1, c2}); }
+void Ordina_Colonna(Programma& programma, CampoRiga campo) { Ordina_Tabella(programma, std::array{campo}); }
+
+void OrdinaDue(Programma& programma, CampoRiga c1, CampoRiga c2) {
+  Ordina_Tabella(programma, std::array{c1, c2});
+}
 
 void OrdinaTre(Programma& programma, CampoRiga c1, CampoRiga c2, CampoRiga c3) {
-  Ordina_Tabella(programma, {c1, c2, c3});
+  Ordina_Tabella(programma, std::array{c1, c2, c3});
 }
 
 void OrdinaCinque(Programma& programma, CampoRiga c1, CampoRiga c2, CampoRiga c3, CampoRiga c4,
                   CampoRiga c5) {
-  Ordina_Tabella(programma, {c1, c2, c3, c4, c5});
+  Ordina_Tabella(programma, std::array{c1, c2, c3, c4, c5});
 }
 
-void Rinumera_Tabella(Programma& programma) {
-  Ordina_Tabella(programma, {CampoRiga::Num});
+bool Rinumera_Tabella(Programma& programma) {
+  Ordina_Colonna(programma, CampoRiga::Num);
+  bool cambiati = false;
   std::size_t posto = 0;
-  for (LedgerRow& riga : programma.Vet_Tabella.righe) riga[CampoRiga::Num] = Numero_Riga(++posto, 4);
+  for (LedgerRow& riga : programma.Vet_Tabella.righe) {
+    Testo numero = Numero_Riga(++posto, 4);
+    cambiati = cambiati || riga[CampoRiga::Num] != numero;
+    riga[CampoRiga::Num] = std::move(numero);
+  }
+  return cambiati;
 }
 
 bool Ordina_Clienti(Programma& programma, int campo) {

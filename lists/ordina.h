@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <initializer_list>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -38,7 +39,7 @@ void Riordina(std::vector<Riga>& righe, const std::vector<std::size_t>& ordine) 
 
 // Sorts any table of rows by the columns given: LedgerRow by CampoRiga, list rows by their columns from 0.
 template <class Riga, class Campo>
-void Ordina_Righe(std::vector<Riga>& righe, std::initializer_list<Campo> campi) {
+void Ordina_Righe(std::vector<Riga>& righe, std::span<const Campo> campi) {
   if (righe.size() < 2) return;
   std::vector<Testo> chiavi;
   chiavi.reserve(righe.size());
@@ -52,6 +53,10 @@ void Ordina_Righe(std::vector<Riga>& righe, std::initializer_list<Campo> campi) 
   }
   Riordina(righe, Ordine_Chiavi(std::move(chiavi)));
 }
+template <class Riga, class Campo>
+void Ordina_Righe(std::vector<Riga>& righe, std::initializer_list<Campo> campi) {
+  Ordina_Righe(righe, std::span<const Campo>(campi.begin(), campi.size()));
+}
 
 // ---- the day's table. All set Colonna_Ordine to the first column, move whole rows, and leave Num and
 // Tabella_Modificata alone. Whoever shows the ledger fills its list again.
@@ -63,8 +68,11 @@ void Ordina_Colonna(Programma& programma, CampoRiga campo);
 void OrdinaDue(Programma& programma, CampoRiga c1, CampoRiga c2);
 void OrdinaTre(Programma& programma, CampoRiga c1, CampoRiga c2, CampoRiga c3);
 void OrdinaCinque(Programma& programma, CampoRiga c1, CampoRiga c2, CampoRiga c3, CampoRiga c4, CampoRiga c5);
-// Order of entry: by Num, which then becomes each row's place in four digits.
-void Rinumera_Tabella(Programma& programma);
+// By any number of fields; Prezzo alone goes as with Ordina_Colonna.
+void Ordina_Tabella(Programma& programma, std::span<const CampoRiga> campi);
+// Order of entry: by Num, which then becomes each row's place in four digits. True when a Num was another
+// one.
+bool Rinumera_Tabella(Programma& programma);
 
 // ---- lists. Each order is written to the list's file; false when that failed (told), the table is sorted
 // then.

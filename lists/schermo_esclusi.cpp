@@ -104,16 +104,19 @@ void Incolla_Esclusi(Programma& programma, SchermoEsclusi& schermo, Incollatura 
   const bool prima_parola = come == Incollatura::Prima_Parola;
   Testo testo = piattaforma.Appunti();
   if (testo.empty()) return piattaforma.Messaggio("Nessun testo da incollare...");
-  testo = Sostituisci_Tutti(testo, "\t", "\n");
+  testo = Sostituisci_Tutti(Sostituisci_Tutti(testo, "\r\n", "\n"), "\t", "\n");
   if (prima_parola) testo = Sostituisci_Tutti(testo, "  ", "\n");
   schermo.Appunti.testo = testo;
   piattaforma.Messaggio("dai una occhiata e premi ok...");
+  const std::size_t prima = schermo.codici.size();
   for (const Vista riga : Righe(testo)) {
     const Vista pezzo = Pulito(riga);
     if (auto codice = Codice_A_Cinque(programma, prima_parola ? pezzo.substr(0, pezzo.find(' ')) : pezzo))
       schermo.codici.push_back(std::move(*codice));
   }
-  Elenco_Cambiato(schermo, static_cast<int>(schermo.codici.size()) - 1);
-  schermo.Esito.testo = "da salvare";
+  if (schermo.codici.size() > prima) {
+    Elenco_Cambiato(schermo, static_cast<int>(schermo.codici.size()) - 1);
+    schermo.Esito.testo = "da salvare";
+  }
   piattaforma.Messaggio("fatto..");
 }

@@ -19,6 +19,8 @@ packages_test=(
   "git|lists the files of the project"
   "clang-format|checks the form of the sources"
   "clang-tidy|checks the sources for faults"
+  "qpdf|checks the printed PDFs"
+  "poppler-utils|reads texts, positions and fonts of the printed PDFs"
 )
 packages_screen=(
   "xvfb|an X server without a screen"

@@ -4,6 +4,13 @@
 #include <QFocusEvent>
 #include <QPainter>
 
+void Prepara_Caratteri() {
+  QFont carattere = QApplication::font();
+  if (!QFontInfo(carattere).fixedPitch()) return;
+  carattere.setFamily(QStringLiteral("Liberation Sans"));
+  QApplication::setFont(carattere);
+}
+
 QFont Carattere(double punti, bool grassetto) {
   QFont carattere = QApplication::font();
   carattere.setPointSizeF(punti);

@@ -5,6 +5,10 @@
 
 // What makes the screens readable at arm's length: sizes in points on the desktop's own fonts and palette.
 
+// A desktop without a font of its own for text would show everything in a typewriter face: then the program's
+// own sans serif is taken. Called once, before the first window.
+void Prepara_Caratteri();
+
 QFont Carattere(double punti, bool grassetto = false);  // the desktop's font
 QFont Carattere_Fisso(double punti);                    // fixed pitch, so that the columns of a list line up
 inline constexpr double punti_titolo = 18, punti_grandi = 15, punti_normali = 11;

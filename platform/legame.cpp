@@ -26,11 +26,14 @@ void Mostra_Controllo(QWidget* widget, const Controllo& stato) {
 void Mostra_Campo(QLineEdit* campo, const Testo& stato) {
   const QString testo = In_QString(stato);
   if (campo->text() == testo) return;
+  const bool tutto = campo->hasSelectedText() && campo->selectedText().size() == campo->text().size();
   const int posto = campo->cursorPosition();
   const bool in_fondo = posto == campo->text().size();
   campo->setText(testo);
   if (!campo->hasFocus())
     campo->setCursorPosition(0);  // a long text is read from its beginning
+  else if (tutto)
+    Seleziona_Tutto(campo);
   else if (!in_fondo)
     campo->setCursorPosition(posto);
 }
@@ -44,6 +47,11 @@ void Mostra_Didascalia(QAbstractButton* bottone, const Testo& stato) {
 
 }  // namespace
 
+void Seleziona_Tutto(QLineEdit* campo) {
+  const auto caratteri = static_cast<int>(campo->text().size());
+  campo->setSelection(caratteri, -caratteri);
+}
+
 void Mostra_Sfondo(QWidget* widget, const std::optional<Colore>& sfondo) {
   const bool dipinto = widget->property("sfondo").isValid();
   if (!sfondo) {
@@ -56,8 +64,10 @@ void Mostra_Sfondo(QWidget* widget, const std::optional<Colore>& sfondo) {
   if (dipinto && widget->property("sfondo").value<QColor>() == colore) return;
   const QColor testo = colore.lightnessF() > 0.5F ? Qt::black : Qt::white;
   QPalette tavolozza = widget->palette();
-  for (const auto ruolo : {QPalette::Base, QPalette::Window}) tavolozza.setColor(ruolo, colore);
-  for (const auto ruolo : {QPalette::Text, QPalette::WindowText}) tavolozza.setColor(ruolo, testo);
+  // A screen's colour is not that of the fields on it.
+  const bool campo = qobject_cast<QLineEdit*>(widget) != nullptr;
+  tavolozza.setColor(campo ? QPalette::Base : QPalette::Window, colore);
+  tavolozza.setColor(campo ? QPalette::Text : QPalette::WindowText, testo);
   widget->setProperty("sfondo", colore);
   widget->setAutoFillBackground(true);
   widget->setPalette(tavolozza);

@@ -74,6 +74,9 @@ class Legame : public QObject {
 // The caption as it is read aloud and compared: without "&".
 QString Senza_Scorciatoia(const QString& didascalia);
 
+// All of a field selected from its end to its beginning, which is what shows of a long text.
+void Seleziona_Tutto(QLineEdit* campo);
+
 // Paints the widget's background in that colour, with a text that can be read on it; nothing: the desktop's
 // own.
 void Mostra_Sfondo(QWidget* widget, const std::optional<Colore>& sfondo);

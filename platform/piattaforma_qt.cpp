@@ -13,10 +13,7 @@
 #include <QInputDialog>
 #include <QLocale>
 #include <QMessageBox>
-#include <QPageLayout>
 #include <QPointer>
-#include <QPrinter>
-#include <QPrinterInfo>
 #include <QProcess>
 #include <QPushButton>
 #include <QStorageInfo>
@@ -26,6 +23,7 @@
 #include "platform/aspetto.h"
 #include "platform/finestra.h"
 #include "platform/testo_qt.h"
+#include "printing/dispositivo.h"
 
 namespace {
 
@@ -167,11 +165,9 @@ std::vector<Volume> Piattaforma_Qt::Volumi() {
 }
 
 std::optional<Stampante> Piattaforma_Qt::Stampante_Corrente() {
-  const QPrinterInfo stampante = QPrinterInfo::defaultPrinter();
-  if (stampante.isNull()) return Stampante{"PDF", false};  // paper works on a machine that has no printer
-  const QPrinter foglio(stampante);
-  return Stampante{Da_QString(stampante.printerName()),
-                   foglio.pageLayout().orientation() == QPageLayout::Landscape};
+  auto nome = dispositivo_.DeviceName();
+  if (!nome) return std::nullopt;
+  return Stampante{std::move(*nome), dispositivo_.Orientation() == Orizzontale};
 }
 
 bool Piattaforma_Qt::Avvia_Programma(const Percorso& programma, const std::vector<Testo>& argomenti) {

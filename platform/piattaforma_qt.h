@@ -7,6 +7,8 @@
 // The machine as the desktop's toolkit gives it.
 class Piattaforma_Qt : public Piattaforma {
  public:
+  explicit Piattaforma_Qt(Printer& dispositivo) : dispositivo_(dispositivo) {}
+
   void Messaggio(const Testo& testo, Icona icona, const Testo& titolo) override;
   bool Domanda(const Testo& testo, Icona icona, const Testo& titolo) override;
   std::optional<Testo> Chiedi(const Testo& testo, const Testo& titolo, const Testo& proposta) override;
@@ -18,10 +20,12 @@ class Piattaforma_Qt : public Piattaforma {
   Testo Appunti() override;
   std::vector<Volume> Volumi() override;
   std::optional<Stampante> Stampante_Corrente() override;
+  Printer& Dispositivo() override { return dispositivo_; }
   bool Avvia_Programma(const Percorso& programma, const std::vector<Testo>& argomenti) override;
   void Apri_Con_Desktop(const Percorso& file_o_cartella) override;
   void Termina() override;
 
  private:
+  Printer& dispositivo_;
   QElapsedTimer ultima_ridipintura_;
 };

@@ -9,6 +9,7 @@
 namespace {
 
 constexpr Colore Grigio{128, 128, 128};
+constexpr Colore Bianco{255, 255, 255};
 // Days before the ALFA3 codes belong to the previous version of the program.
 constexpr int Primo_Giorno_ALFA3 = 20200302;
 constexpr Vista Versione_Precedente = "Velmara_32.exe", Generatore = "Velmara_2020_Descri.exe";
@@ -38,7 +39,7 @@ bool Solo_Documenti_Sanitari(const Programma& programma) {
 }
 
 void Sfondo_Del_Modo(const Programma& programma, B_Inizio& inizio) {
-  inizio.sfondo = programma.Modo_Dat ? std::optional(Grigio) : std::nullopt;
+  inizio.sfondo = programma.Modo_Dat ? Grigio : Bianco;
 }
 
 void Scrivi_Testi(const Programma& programma, B_Inizio& inizio) {
@@ -155,13 +156,13 @@ std::array<std::int32_t, 4> Numeri(const Programma& programma) {
   return {programma.Ultimo_CV, programma.Ultima_NA, programma.Ultima_Fattura, programma.Ultimo_DDT};
 }
 
-// Numbers corrected by hand take effect here. A file that can't be written is told, and the day opens all the
-// same.
+// Numbers corrected by hand take effect here. A file that can't be written is told, the day opens
+// all the same, and the next opening writes them.
 void Prendi_Numeri(Programma& programma, const B_Inizio& inizio) {
   const int conto = Leggi_Intero(programma, inizio.Text2), nota = Leggi_Intero(programma, inizio.Text4);
   const int fattura = Leggi_Intero(programma, inizio.Text5), ddt = Leggi_Intero(programma, inizio.Text6);
-  if (conto == programma.Ultimo_CV && nota == programma.Ultima_NA && fattura == programma.Ultima_Fattura &&
-      ddt == programma.Ultimo_DDT)
+  if (!programma.Numeri_Da_Salvare && conto == programma.Ultimo_CV && nota == programma.Ultima_NA &&
+      fattura == programma.Ultima_Fattura && ddt == programma.Ultimo_DDT)
     return;
   programma.Ultimo_CV = conto;
   programma.Ultima_NA = nota;

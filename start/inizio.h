@@ -14,8 +14,8 @@ struct B_Inizio {
   Scritta Prompt, Label13, Stato, Ditta, RagioneSociale, Moduli, Nota;
   Bottone Command1, Command2, Command4, Command5, Command6, Command7, Command8, Command9, Command10,
       Command11, Command12, Command14, Command15, Command16;
-  Elenco File1;                  // working tool, not shown
-  std::optional<Colore> sfondo;  // grey while Modo_Dat is on
+  Elenco File1;   // working tool, not shown
+  Colore sfondo;  // grey while Modo_Dat is on
   bool attiva = true;
   // What the program knew when the number fields were filled: account, credit note, invoice, transport
   // document.

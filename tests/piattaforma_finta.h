@@ -21,7 +21,8 @@ class Piattaforma_Finta : public Piattaforma {
   Testo appunti;
   std::vector<Volume> volumi;
   std::optional<Stampante> stampante = Stampante{"Registro", false};
-  double attesa = 0;  // seconds waited in all
+  Printer* dispositivo = nullptr;  // of the tests that print
+  double attesa = 0;               // seconds waited in all
   int ridipinture = 0;
   bool terminata = false;
   std::function<void()> durante_attesa;  // what "happens" while the program waits or asks
@@ -53,6 +54,10 @@ class Piattaforma_Finta : public Piattaforma {
   Testo Appunti() override { return appunti; }
   std::vector<Volume> Volumi() override { return volumi; }
   std::optional<Stampante> Stampante_Corrente() override { return stampante; }
+  Printer& Dispositivo() override {
+    if (!dispositivo) throw std::logic_error("stampa inattesa");
+    return *dispositivo;
+  }
   bool Avvia_Programma(const Percorso& programma, const std::vector<Testo>&) override {
     programmi.push_back(Testo_Percorso(programma.filename()));
     return programmi_partono;

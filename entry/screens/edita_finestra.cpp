@@ -12,10 +12,16 @@
 
 #include "core/screens/colori_finestra.h"
 #include "core/screens/preferenze_finestra.h"
+#include "entry/aiuto.h"
 #include "entry/comandi.h"
+#include "entry/comandi_file.h"
+#include "entry/liste_campi.h"
+#include "entry/ordinamenti.h"
 #include "entry/screens/elenco_macro_finestra.h"
 #include "entry/screens/lotti_finestra.h"
 #include "entry/screens/semaforo.h"
+#include "lists/anagrafica_specie.h"
+#include "lists/mappe.h"
 #include "platform/aspetto.h"
 #include "platform/tasti_qt.h"
 #include "platform/testo_qt.h"
@@ -65,8 +71,17 @@ void EditaFinestra::prepara_azioni() {
       {QStringLiteral("Imposta_Lotti"), richiesta(Richiesta::Lotti_Predefiniti)},
       {QStringLiteral("PrefFornitori"), richiesta(Richiesta::Elenco_Fornitori)},
       {QStringLiteral("PrefSpecie"), richiesta(Richiesta::Elenco_Specie)},
+      {QStringLiteral("Cancella_Tutto"), con_stato(CancellaTutto)},
+      {QStringLiteral("Rinnova_Liste"), con_stato(RinnovaListe)},
+      {QStringLiteral("Aiuto_Campi"), [this] { ListaCampi(programma_); }},
+      {QStringLiteral("Salva_Lista_Specie"), [this] { Esporta_Specie(programma_); }},
       {QStringLiteral("Chiudi"), [this] { chiudi(); }},
   };
+  for (const Ordinamento& ordine : Ordinamenti())
+    azioni_[In_QString(ordine.nome)] = [this, &ordine] { Ordina(programma_, edita_, ordine); };
+  for (const Voce_Aiuto& aiuto : Aiuti())
+    azioni_[In_QString(aiuto.nome)] = [this, nome = aiuto.nome] { MostraAiuto(programma_, nome); };
+  prepara_azioni_liste();
 }
 
 void EditaFinestra::esegui_comando(const QString& nome) {
@@ -218,10 +233,27 @@ bool EditaFinestra::evento_campo(int indice, QEvent& evento) {
         legame.esegui([&] { SinistroCampo(programma_, edita_, indice); });
       else if (indice == Indice(CampoRiga::Lotti))
         esegui_comando(QStringLiteral("Imposta_Lotti"));
+      else
+        legame.esegui([&] { DestroCampo(edita_, indice); });
       return false;
+    case QEvent::ContextMenu:
+      return menu_del_campo(indice, static_cast<QContextMenuEvent&>(evento).reason());
     default:
       return false;
   }
+}
+
+// Fields with a window of their own have no menu of the toolkit: the right button opens the window, and so
+// does the key.
+bool EditaFinestra::menu_del_campo(int indice, QContextMenuEvent::Reason motivo) {
+  const bool lotti = indice == Indice(CampoRiga::Lotti);
+  if (!lotti && !FinestraDelCampo(indice)) return false;
+  if (motivo != QContextMenuEvent::Keyboard) return true;
+  if (lotti)
+    esegui_comando(QStringLiteral("Imposta_Lotti"));
+  else
+    legame.esegui([&] { ApriListaCampo(edita_, indice); });
+  return true;
 }
 
 // The toolkit moves the focus by itself when a control goes away, and gives it back when a message closes:
@@ -232,7 +264,7 @@ void EditaFinestra::fuoco_campo(int indice, Qt::FocusReason motivo) {
   legame.esegui([&] { FuocoCampo(programma_, edita_, indice); });
   if (motivo == Qt::MouseFocusReason) return;  // the press puts the cursor where it points
   CasellaTesto* campo = campi_[static_cast<std::size_t>(indice)];
-  if (campo->hasFocus()) campo->selectAll();
+  if (campo->hasFocus()) Seleziona_Tutto(campo);
 }
 
 // ---- showing
@@ -327,6 +359,7 @@ void EditaFinestra::riprendi_fuoco() {
 void EditaFinestra::apri_preferenze() {
   const auto larghezza = [this] {
     edita_.hd.visibile = programma_.preferenze.FlagBarra;
+    PreferenzeCambiate(programma_, edita_);
     mostra();
   };
   PreferenzeFinestra(programma_, larghezza, this).esegui();
@@ -347,6 +380,12 @@ void EditaFinestra::apri_richiesta() {
       return Apri_DescPre(programma_, edita_, Tipo_Macro::Specie, false, this);
     case Richiesta::Lotti_Predefiniti:
       return Apri_Lotti(programma_, edita_, lotti_, this);
+    case Richiesta::Lista_Campo:
+      return apri_lista_campo();
+    case Richiesta::Mappa_Mediterraneo:
+      return apri_mappa(nomi_mappa::Mediterraneo);
+    case Richiesta::Mappa_Mondo:
+      return apri_mappa(nomi_mappa::Mondo);
   }
 }
 

@@ -4,6 +4,8 @@
 #include <map>
 #include <vector>
 
+#include <QContextMenuEvent>
+
 #include "core/programma.h"
 #include "entry/edita.h"
 #include "entry/lotti.h"
@@ -18,6 +20,7 @@ class QLabel;
 class QListView;
 class QMenuBar;
 class SemaforoLuce;
+struct Finestra_Campo;
 struct Voce_Menu;
 
 // The window of the entry form: makes the widgets, turns the toolkit's events into calls of the logic, and
@@ -58,6 +61,7 @@ class EditaFinestra : public Finestra {
   void fa_sopra();
   void fa_tastierino();
   QAbstractButton* fa_bottone(const QString& nome, const QString& didascalia, const QString& suggerimento);
+  QAbstractButton* fa_bottone_lista(const Finestra_Campo& finestra);
   void adatta_caratteri();
   void dai_nomi();
 
@@ -69,6 +73,7 @@ class EditaFinestra : public Finestra {
   bool carattere(int indice, QKeyEvent& evento);
   bool tasto_lista(QKeyEvent& evento);
   bool evento_campo(int indice, QEvent& evento);
+  bool menu_del_campo(int indice, QContextMenuEvent::Reason motivo);
   void fuoco_campo(int indice, Qt::FocusReason motivo);
   void sposta_fuoco(const QWidget* prima);
   void fuoco_a(int indice, const QWidget* prima);
@@ -79,6 +84,12 @@ class EditaFinestra : public Finestra {
   void apri_preferenze();
   void apri_richiesta();
   void riduci_edita();
+
+  // edita_liste.cpp: the windows behind the fields
+  void prepara_azioni_liste();
+  void apri_lista_campo();
+  void apri_mappa(Vista nome);
+  void chiudi_lista_campo();
   int indice_di(const QObject* oggetto) const;  // of the field, -1 for none
 
   Programma& programma_;

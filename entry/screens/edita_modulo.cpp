@@ -6,8 +6,10 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QToolButton>
 
 #include "entry/comandi.h"
+#include "entry/liste_campi.h"
 #include "entry/screens/edita_finestra.h"
 #include "entry/screens/semaforo.h"
 #include "platform/aspetto.h"
@@ -17,7 +19,7 @@
 // where and how, then weight, price, lot and boxes in the largest letters, and below what the program fills
 // in.
 
-enum class Misura { Piccola, Grande, Massima };
+enum class Misura { Piccola, Media, Lunga, Grande, Massima };
 
 struct Cella {
   CampoRiga campo;
@@ -37,22 +39,22 @@ constexpr Cella celle[] = {
     {CodCliente, 0, 19, 5},
     {Specie, 1, 0, 8},
     {CodSpecie, 1, 8, 3},
-    {ZonaP, 1, 11, 6},
-    {Prov, 1, 17, 7},
-    {MetodoPesca, 2, 0, 4},
-    {Pezzatura, 2, 4, 4},
-    {StatoFisico, 2, 8, 4},
-    {Lavorazione, 2, 12, 4},
-    {Preparazione, 2, 16, 4},
-    {PrimoImb, 2, 20, 4},
+    {ZonaP, 1, 11, 6, Misura::Lunga},
+    {Prov, 1, 17, 7, Misura::Lunga},
+    {MetodoPesca, 2, 0, 4, Misura::Media},
+    {Pezzatura, 2, 4, 4, Misura::Media},
+    {StatoFisico, 2, 8, 4, Misura::Media},
+    {Lavorazione, 2, 12, 4, Misura::Media},
+    {Preparazione, 2, 16, 4, Misura::Media},
+    {PrimoImb, 2, 20, 4, Misura::Media},
     {Peso, 3, 0, 5, Misura::Massima},
     {Prezzo, 3, 5, 5, Misura::Massima},
     {Iva, 3, 10, 2, Misura::Massima},
     {Lotti, 3, 12, 8, Misura::Massima},
     {Colli, 3, 20, 4, Misura::Massima},
-    {Commento, 4, 0, 6, Misura::Piccola},
-    {Allergeni, 4, 6, 3, Misura::Piccola},
-    {DDT_CV, 4, 9, 3, Misura::Piccola},
+    {Commento, 4, 0, 5, Misura::Piccola},
+    {Allergeni, 4, 5, 3, Misura::Piccola},
+    {DDT_CV, 4, 8, 4, Misura::Piccola},
     {NCV, 4, 12, 3, Misura::Piccola},
     {DataCV, 4, 15, 2, Misura::Piccola},
     {SAnt, 4, 17, 3, Misura::Piccola},
@@ -73,15 +75,18 @@ double Fattore(Misura misura) {
     case Misura::Massima:
       return 1.9;
     case Misura::Grande:
+    case Misura::Lunga:  // as large, but lighter: the entries of zones and countries are long
       return 1.5;
+    case Misura::Media:
+      return 1.25;
     case Misura::Piccola:
       break;
   }
   return 1.1;
 }
 
-// Fields that the program fills and the operator only reads.
-bool Sola_Lettura(CampoRiga campo) {
+// Fields that the species list fills: Tab passes over them, a click corrects them for the row.
+bool Dalla_Specie(CampoRiga campo) {
   return campo == NomeLatino || campo == Famiglia || campo == NomeComune || campo == CodNumVeritas ||
          campo == Alfa;
 }
@@ -93,8 +98,8 @@ void Con_Carattere(QWidget* widget, double fattore, bool grassetto = false) {
 
 // The arrow buttons carry their key.
 QString Didascalia(const Voce_Comando& voce) {
-  if (voce.tasto == Tasto::F8) return QStringLiteral("\u25C0 F8");
-  if (voce.tasto == Tasto::F9) return QStringLiteral("F9 \u25B6");
+  if (voce.tasto == Tasto::F8) return QStringLiteral("<  F8");
+  if (voce.tasto == Tasto::F9) return QStringLiteral("F9  >");
   return In_QString(voce.didascalia);
 }
 
@@ -154,6 +159,8 @@ void EditaFinestra::fa_cella(QGridLayout* griglia, const Cella& cella) {
     Tiene_Posto(titolo);
     testa->addWidget(titolo, 1);
   }
+  if (const Finestra_Campo* finestra = FinestraDelCampo(indice); finestra && finestra->campo == cella.campo)
+    testa->addWidget(fa_bottone_lista(*finestra));
   if (cella.campo == DDT || cella.campo == FAT) {
     auto* bottone = new QPushButton;
     const bool ddt = cella.campo == DDT;
@@ -180,10 +187,12 @@ void EditaFinestra::fa_cella(QGridLayout* griglia, const Cella& cella) {
   auto* campo = new CasellaTesto;
   campi_[i] = campo;
   lega_campo(indice);
-  Con_Carattere(campo, Fattore(cella.misura), cella.misura != Misura::Piccola);
+  Con_Carattere(campo, Fattore(cella.misura),
+                cella.misura == Misura::Grande || cella.misura == Misura::Massima);
   campo->setMinimumWidth(1);
-  campo->setReadOnly(Sola_Lettura(cella.campo));
-  if (Sola_Lettura(cella.campo)) campo->setFocusPolicy(Qt::NoFocus);
+  if (Dalla_Specie(cella.campo)) campo->setFocusPolicy(Qt::ClickFocus);
+  // Num is never keyed: with the first focus of the window its cursor would blink on while it is disabled.
+  if (cella.campo == Num) campo->setFocusPolicy(Qt::NoFocus);
   colonna->addWidget(campo);
   Tiene_Posto(campo);
   griglia->addWidget(riquadro, cella.riga, cella.colonna, 1, cella.largo, Qt::AlignBottom);
@@ -228,6 +237,22 @@ QAbstractButton* EditaFinestra::fa_bottone(const QString& nome, const QString& d
   bottone->installEventFilter(this);
   Con_Carattere(bottone, 1);
   connect(bottone, &QPushButton::clicked, this, [this, nome] { esegui_comando(nome); });
+  comandi_[nome].bottoni.push_back(bottone);
+  return bottone;
+}
+
+// The list of a field, for the mouse; at the keyboard it is the key of the context menu in the field.
+QAbstractButton* EditaFinestra::fa_bottone_lista(const Finestra_Campo& finestra) {
+  const QString nome = In_QString(finestra.nome), didascalia = In_QString(finestra.didascalia);
+  auto* bottone = new QToolButton;
+  bottone->setText(QStringLiteral("..."));
+  bottone->setObjectName(nome);
+  bottone->setToolTip(didascalia);
+  bottone->setAccessibleName(didascalia);
+  bottone->setFocusPolicy(Qt::NoFocus);
+  Con_Carattere(bottone, 1, true);
+  Tiene_Posto(bottone);
+  connect(bottone, &QToolButton::clicked, this, [this, nome] { esegui_comando(nome); });
   comandi_[nome].bottoni.push_back(bottone);
   return bottone;
 }

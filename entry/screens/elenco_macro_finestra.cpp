@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QScrollBar>
 
+#include "entry/screens/davanti.h"
 #include "platform/aspetto.h"
 #include "platform/tasti_qt.h"
 #include "platform/testo_qt.h"
@@ -34,7 +35,6 @@ ElencoMacroFinestra::ElencoMacroFinestra(Programma& programma, Edita& edita, Tip
       programma_(programma),
       edita_(edita),
       lista_(new QListView) {
-  setAttribute(Qt::WA_DeleteOnClose);
   Apri_ElencoMacro(programma_, elenco_, tipo, dal_campo);
   codice_ = fa_casella(QStringLiteral("Text1"), elenco_.Text1);
   cerca_ = fa_casella(QStringLiteral("Text2"), elenco_.Text2);
@@ -76,7 +76,7 @@ ElencoMacroFinestra::ElencoMacroFinestra(Programma& programma, Edita& edita, Tip
   tutto->addWidget(lista_, 1);
 
   const QFontMetrics misure = lista_->fontMetrics();
-  const int colonne = tipo == Tipo_Macro::Specie ? 112 : 150;
+  const int colonne = tipo == Tipo_Macro::Specie ? 114 : 132;
   const QSize voluta(misure.averageCharWidth() * colonne, misure.lineSpacing() * (righe_in_vista + 5));
   resize(voluta.boundedTo(screen()->availableSize() * 0.92));
   setTabOrder(codice_, cerca_);
@@ -95,6 +95,7 @@ CasellaTesto* ElencoMacroFinestra::fa_casella(const QString& nome, CampoTesto& s
 
 QMenuBar* ElencoMacroFinestra::fa_menu() {
   auto* barra = new QMenuBar;
+  barra->setFont(Carattere(punti_normali));
   const auto voce = [&](const QString& nome, Bottone& stato, const Legame::Evento& evento) {
     auto* azione = barra->addAction(QString());
     legame.lega(azione, QStringLiteral("menu ") + nome, stato, evento);
@@ -180,14 +181,5 @@ void ElencoMacroFinestra::closeEvent(QCloseEvent* evento) {
 }
 
 void Apri_DescPre(Programma& programma, Edita& edita, Tipo_Macro tipo, bool dal_campo, Finestra* padre) {
-  auto* finestra = new ElencoMacroFinestra(programma, edita, tipo, dal_campo, padre);
-  // once it is out of the way, so that the keyboard can go back
-  const auto ripresa = [padre] {
-    padre->window()->activateWindow();
-    padre->mostra();
-  };
-  QObject::connect(finestra, &Finestra::chiusa, padre, ripresa, Qt::QueuedConnection);
-  finestra->setWindowModality(Qt::WindowModal);
-  finestra->show();
-  finestra->activateWindow();
+  Apri_Davanti(new ElencoMacroFinestra(programma, edita, tipo, dal_campo, padre), padre);
 }

@@ -7,6 +7,7 @@
 #include <QListView>
 #include <QPushButton>
 
+#include "entry/screens/davanti.h"
 #include "platform/aspetto.h"
 #include "platform/tasti_qt.h"
 #include "platform/testo_qt.h"
@@ -18,7 +19,6 @@ LottiFinestra::LottiFinestra(Programma& programma, Edita& edita, Lotti_Predefini
       lotti_(lotti),
       lotto_(new CasellaTesto),
       lista_(new QListView) {
-  setAttribute(Qt::WA_DeleteOnClose);
   Apri_LottiPredefiniti(programma_, lotti_);
   setWindowTitle(In_QString(lotti_.titolo));
 
@@ -135,14 +135,5 @@ void LottiFinestra::closeEvent(QCloseEvent* evento) {
 }
 
 void Apri_Lotti(Programma& programma, Edita& edita, Lotti_Predefiniti& lotti, Finestra* padre) {
-  auto* finestra = new LottiFinestra(programma, edita, lotti, padre);
-  // once it is out of the way, so that the keyboard can go back
-  const auto ripresa = [padre] {
-    padre->window()->activateWindow();
-    padre->mostra();
-  };
-  QObject::connect(finestra, &Finestra::chiusa, padre, ripresa, Qt::QueuedConnection);
-  finestra->setWindowModality(Qt::WindowModal);
-  finestra->show();
-  finestra->activateWindow();
+  Apri_Davanti(new LottiFinestra(programma, edita, lotti, padre), padre);
 }

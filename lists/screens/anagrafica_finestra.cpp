@@ -79,8 +79,10 @@ AnagraficaFinestra::AnagraficaFinestra(Programma& programma, const Anagrafica& a
 
 void AnagraficaFinestra::lega_lista() {
   lista_->setAccessibleName(In_QString(schermo_.anagrafica->didascalia_lista));
-  if (const int colonna = schermo_.anagrafica->colonna_tab; colonna > 0)
+  if (const int colonna = schermo_.anagrafica->colonna_tab; colonna > 0) {
     lista_->setItemDelegate(new Colonne(colonna, lista_));
+    lista_->setUniformItemSizes(false);  // the view scrolls to the end of the longest line
+  }
   lista_->installEventFilter(this);
   legame.lega(lista_, QStringLiteral("List1"), schermo_.List1, [this] { Scegli_Voce(programma_, schermo_); });
   connect(lista_, &QListView::doubleClicked, this,
@@ -97,6 +99,11 @@ QBoxLayout* AnagraficaFinestra::fa_ricerca() {
   legame.lega(cerca_, QStringLiteral("Cerca"), schermo_.Cerca, [this] { Cerca_Voce(programma_, schermo_); });
   riga->addWidget(scritta);
   riga->addWidget(cerca_, 1);
+  const auto& comandi = schermo_.anagrafica->comandi;
+  for (std::size_t i = 0; i < comandi.size(); ++i)
+    if (const auto esegui = comandi[i].esegui; !comandi[i].solo_modulo)
+      riga->addWidget(fa_bottone(In_QString(comandi[i].nome), schermo_.Comandi[i],
+                                 [this, esegui] { esegui(programma_, schermo_); }));
   return riga;
 }
 
@@ -111,6 +118,7 @@ void AnagraficaFinestra::fa_ordini(QBoxLayout* ricerca, QBoxLayout* tutto) {
   for (std::size_t i = 0; i < ordini.size(); ++i)
     riga->addWidget(fa_bottone(In_QString(ordini[i].nome), schermo_.Ordini[i],
                                [this, i] { Ordina_Anagrafica(programma_, schermo_, i); }));
+  if (riga != ricerca) riga->addStretch();
 }
 
 QLayout* AnagraficaFinestra::fa_comandi() {
@@ -119,11 +127,6 @@ QLayout* AnagraficaFinestra::fa_comandi() {
   legame.lega(esito, QStringLiteral("Esito"), schermo_.Esito);
   riga->addWidget(
       fa_bottone(QStringLiteral("AggiungiModifica"), schermo_.AggiungiModifica, [this] { apri_modulo(); }));
-  const auto& comandi = schermo_.anagrafica->comandi;
-  for (std::size_t i = 0; i < comandi.size(); ++i)
-    if (const auto esegui = comandi[i].esegui; !comandi[i].solo_modulo)
-      riga->addWidget(fa_bottone(In_QString(comandi[i].nome), schermo_.Comandi[i],
-                                 [this, esegui] { esegui(programma_, schermo_); }));
   riga->addWidget(esito, 1);
   riga->addWidget(fa_bottone(QStringLiteral("Copia"), schermo_.Copia, [this] { Copia_Voce(schermo_); }));
   riga->addWidget(fa_bottone(QStringLiteral("Chiudi"), schermo_.Chiudi, [this] { close(); }));

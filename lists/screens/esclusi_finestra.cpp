@@ -83,7 +83,9 @@ QGroupBox* EsclusiFinestra::fa_automatico() {
   auto* griglia = new QGridLayout(riquadro);
   appunti_->setObjectName(QStringLiteral("Appunti"));
   appunti_->setAccessibleName(QStringLiteral("Testo incollato"));
-  appunti_->setFont(Carattere_Fisso(punti_normali));
+  QFont carattere = Carattere_Fisso(punti_normali);
+  carattere.setBold(false);  // not the title's weight
+  appunti_->setFont(carattere);
   appunti_->setReadOnly(true);
   appunti_->setTabChangesFocus(true);
   griglia->addWidget(appunti_, 0, 0, 1, 2);

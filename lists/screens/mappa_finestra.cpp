@@ -24,6 +24,7 @@ MappaFinestra::MappaFinestra(const QString& nome, const Programma& programma, co
   if (padre) connect(this, &Finestra::chiusa, padre, [padre] { padre->activateWindow(); });
 
   tela_ = new TelaMappa(mappa_, Bersaglio_Di_Zona(mappa_, zona_attuale_));
+  tela_->setAccessibleName(windowTitle());
   connect(tela_, &TelaMappa::scelto, this, &MappaFinestra::scegli);
   connect(tela_, &TelaMappa::guardato, this, &MappaFinestra::spiega);
 
@@ -56,6 +57,9 @@ MappaFinestra::MappaFinestra(const QString& nome, const Programma& programma, co
   spiega(-1);
   tela_->al_primo();
 }
+
+// The label with the focus loses it as it goes, which is no news to a window that goes too.
+MappaFinestra::~MappaFinestra() { disconnect(tela_, nullptr, this, nullptr); }
 
 void MappaFinestra::spiega(int bersaglio) {
   spiegazione_->setText(bersaglio < 0

@@ -20,6 +20,9 @@ class MappaFinestra : public Finestra {
   // `zona_attuale`: the row's ZonaP, whose area is marked.
   MappaFinestra(const QString& nome, const Programma& programma, const Testo& zona_attuale, Scelta scelta,
                 QWidget* padre = nullptr);
+  ~MappaFinestra() override;
+  MappaFinestra(const MappaFinestra&) = delete;
+  MappaFinestra& operator=(const MappaFinestra&) = delete;
 
  protected:
   void keyPressEvent(QKeyEvent* evento) override;

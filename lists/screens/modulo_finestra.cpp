@@ -33,11 +33,7 @@ ModuloFinestra::ModuloFinestra(Programma& programma, SchermoAnagrafica& schermo,
   tutto->setContentsMargins(18, 16, 18, 16);
   tutto->setSpacing(14);
   tutto->addLayout(fa_campi());
-  for (const Testo& nota : schermo_.anagrafica->note) {
-    auto* scritta = new QLabel(In_QString(nota));
-    scritta->setWordWrap(true);
-    tutto->addWidget(scritta);
-  }
+  if (!schermo_.anagrafica->note.empty()) tutto->addLayout(fa_note());
   auto* aiuto = new QLabel;
   aiuto->setWordWrap(true);
   aiuto->setMinimumHeight(aiuto->fontMetrics().lineSpacing() * 2);  // nothing moves when a tip comes
@@ -49,6 +45,18 @@ ModuloFinestra::ModuloFinestra(Programma& programma, SchermoAnagrafica& schermo,
   if (!schermo_.anagrafica->comandi.empty()) tutto->addLayout(fa_altri_comandi());
   tutto->addLayout(fa_comandi());
   legame.mostra();
+}
+
+QLayout* ModuloFinestra::fa_note() {
+  auto* righe = new QVBoxLayout;
+  righe->setSpacing(3);
+  for (const Testo& nota : schermo_.anagrafica->note) {
+    auto* scritta = new QLabel(In_QString(nota));
+    scritta->setObjectName(QStringLiteral("Nota(%1)").arg(righe->count()));
+    scritta->setWordWrap(true);
+    righe->addWidget(scritta);
+  }
+  return righe;
 }
 
 QLayout* ModuloFinestra::fa_campi() {

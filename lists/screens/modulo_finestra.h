@@ -30,6 +30,7 @@ class ModuloFinestra : public Finestra {
 
  private:
   QLayout* fa_campi();
+  QLayout* fa_note();
   QLayout* fa_scorrimento();
   QLayout* fa_comandi();
   QLayout* fa_altri_comandi();

@@ -1,6 +1,8 @@
 #include "lists/screens/parti.h"
 
+#include <QApplication>
 #include <QPushButton>
+#include <QScrollBar>
 
 #include "platform/aspetto.h"
 #include "platform/testo_qt.h"
@@ -22,6 +24,8 @@ ListaVoci::ListaVoci(double punti, QWidget* padre) : QListView(padre) {
   for (const auto ruolo : {QPalette::Highlight, QPalette::HighlightedText})
     tavolozza.setColor(QPalette::Inactive, ruolo, tavolozza.color(QPalette::Active, ruolo));
   setPalette(tavolozza);
+  for (QScrollBar* barra : {verticalScrollBar(), horizontalScrollBar()})
+    barra->setPalette(QApplication::palette());  // not the frame's colour
   incornicia(false);
 }
 

@@ -2,10 +2,10 @@
 
 #include <QBoxLayout>
 #include <QKeyEvent>
-#include <QListView>
 #include <QPushButton>
 #include <QScreen>
 
+#include "lists/screens/parti.h"
 #include "platform/aspetto.h"
 #include "platform/tasti_qt.h"
 #include "platform/testo_qt.h"
@@ -15,17 +15,13 @@ UfficialiFinestra::UfficialiFinestra(Programma& programma, SchermoAnagrafica& sp
       programma_(programma),
       specie_(specie),
       modulo_(modulo),
-      lista_(new QListView) {
+      lista_(new ListaVoci(programma.preferenze.DimFontListe)) {
   Apri_Ufficiali(programma_, schermo_);
   setWindowModality(Qt::WindowModal);
   setWindowTitle(In_QString(schermo_.titolo));
   setFont(Carattere(punti_normali));
 
-  lista_->setFont(Carattere_Fisso(programma_.preferenze.DimFontListe));
   lista_->setAccessibleName(QStringLiteral("Descrizioni ufficiali"));
-  lista_->setUniformItemSizes(true);
-  lista_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  lista_->setTextElideMode(Qt::ElideNone);
   lista_->installEventFilter(this);
   legame.lega(lista_, QStringLiteral("List1"), schermo_.List1);
   connect(lista_, &QListView::doubleClicked, this, [this] { copia(); });
@@ -49,10 +45,7 @@ UfficialiFinestra::UfficialiFinestra(Programma& programma, SchermoAnagrafica& sp
 
 void UfficialiFinestra::fa_bottone(QLayout* riga, const QString& nome, Bottone& stato,
                                    Legame::Evento evento) {
-  auto* bottone = new QPushButton;
-  bottone->setAutoDefault(true);  // Enter presses it
-  bottone->setMinimumHeight(bottone->fontMetrics().height() * 2);
-  bottone->setMinimumWidth(bottone->fontMetrics().averageCharWidth() * 14);
+  auto* bottone = Fa_Bottone(stato);
   legame.lega(bottone, nome, stato, std::move(evento));
   riga->addWidget(bottone);
 }

@@ -3,7 +3,7 @@
 #include "lists/anagrafica_specie.h"
 #include "platform/finestra.h"
 
-class QListView;
+class ListaVoci;
 
 // The official list of species, `ModDescrLista`. A double click or Enter copies the line into the fields of
 // the species editor that stands behind it, and closes the window.
@@ -27,5 +27,5 @@ class UfficialiFinestra : public Finestra {
   SchermoAnagrafica& specie_;
   Finestra* modulo_;
   SchermoUfficiali schermo_;
-  QListView* lista_;
+  ListaVoci* lista_;
 };

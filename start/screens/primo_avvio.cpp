@@ -100,6 +100,7 @@ QWidget* PrimoAvvioFinestra::fa_campi() {
     aggiungi(QStringLiteral("Text1(%1)").arg(i), Text1_[i], righe[i], nullptr);
   aggiungi(QStringLiteral("Text2"), Text2_, codice, nota_codice);
   posteggio_ = aggiungi(QStringLiteral("Text3"), Text3_, posteggio, nota_posteggio);
+  posteggio_->setMaxLength(2);
   griglia->setColumnStretch(2, 1);
   riquadro->setMinimumWidth(griglia->sizeHint().width() + 160);
   return riquadro;

@@ -8,6 +8,7 @@
 #include "start/avvio.h"
 
 class QLabel;
+class QLineEdit;
 
 // The first run in a new folder asks who the firm is: the seven letterhead lines, the firm's code, the stall.
 class PrimoAvvioFinestra : public Finestra {
@@ -31,6 +32,6 @@ class PrimoAvvioFinestra : public Finestra {
   std::array<CampoTesto, 7> Text1_;
   CampoTesto Text2_, Text3_;
   Bottone Command1_, Command2_;
-  QWidget* posteggio_ = nullptr;
+  QLineEdit* posteggio_ = nullptr;
   bool confermato_ = false;
 };

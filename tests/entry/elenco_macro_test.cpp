@@ -72,8 +72,8 @@ TEST(ElencoMacro, LaRigaDiUnFornitore) {
           "RDT Reti\r\nSBG\r\nGRA\r\nFRE\r\nXXX\r\nWHL\r\n");
   g.ApriElenco();
   EXPECT_EQ(g.elenco.List1.Riga(0),
-            "MARE       | mare blu             | societ\xE0              | A0837                | "
-            "IT Italia            | RDT GRA FRE XXX WHL SBG | MB250313");
+            "MARE       | mare blu             | societ\xE0              | A0837      | "
+            "IT Italia    | RDT GRA FRE XXX WHL SBG | MB250313");
 }
 
 TEST(ElencoMacro, TitoliENumero) {

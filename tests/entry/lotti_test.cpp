@@ -178,6 +178,7 @@ TEST(LottiPredefiniti, LetturaEScrittura) {
   Apri_LottiPredefiniti(g.programma, g.lista);
   EXPECT_THAT(g.lista.lotti, ElementsAre("L1", "L2", "L\x80 3"));
   EXPECT_EQ(g.lista.List1.Numero(), 3U);
+  EXPECT_EQ(g.lista.List1.scelta, 0);  // Enter takes what is seen marked
   g.lista.Text1.testo = "L4";
   AggiungiLotto(g.lista);
   SalvaLotti(g.programma, g.lista);
@@ -232,7 +233,7 @@ TEST(LottiPredefiniti, SvuotareChiede) {
 TEST(LottiPredefiniti, Elimina) {
   Giornata_Lotti g;
   g.MettiFile("L1\r\nL2\r\n");
-  Apri_LottiPredefiniti(g.programma, g.lista);
+  CaricaLotti(g.programma, g.lista);
   EliminaLotto(g.programma, g.lista);
   EXPECT_THAT(g.macchina.messaggi, ElementsAre("selezionare il lotto da cancellare..."));
   g.lista.List1.scelta = 1;

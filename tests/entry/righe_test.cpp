@@ -562,8 +562,22 @@ TEST(Modifica, PrezzoPerCassa) {
   EXPECT_EQ(g.Riga(1)[C::Prezzo], "1,25");
 }
 
-// A row that is refused keeps what was keyed: the crate isn't turned into kilograms.
-TEST(Modifica, UnaRigaRifiutataNonConverteLaCassa) {
+// An excluded customer is told and refused after the crate has become kilograms: keyed again with another
+// customer the row is the same sale.
+TEST(Modifica, ClienteEsclusoConPrezzoPerCassa) {
+  Giorno_Di_Due g;
+  g.programma.Vet_Esclusi = {g[C::CodCliente]};
+  g[C::Prezzo] = "12,5c";
+  g[C::Colli] = "5";
+  g.Modifica_Riga();
+  EXPECT_EQ(g.macchina.messaggi.back(), "Dati errati o incompleti");
+  EXPECT_EQ(g[C::Peso], "50,00");
+  EXPECT_EQ(g[C::Prezzo], "1,25");
+  EXPECT_FALSE(g.programma.Tabella_Modificata);
+}
+
+// Cancel leaves everything as it was keyed: the crate isn't turned into no kilograms.
+TEST(Modifica, CasseAnnullateNonConvertonoLaCassa) {
   Giorno_Di_Due g;
   g[C::Prezzo] = "12,5c";
   g[C::Colli] = "0";

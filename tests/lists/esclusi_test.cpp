@@ -169,10 +169,12 @@ TEST_F(Schermo_Degli_Esclusi, IncollarePezziInteriOPrimeParole) {
     macchina.appunti = appunti;
     for (const auto come : {Incollatura::Pezzo_Intero, Incollatura::Prima_Parola}) {
       macchina.messaggi.clear();
+      schermo = {};
       Apri();
       Incolla_Esclusi(programma, schermo, come);
       EXPECT_EQ(Voci(), come == Incollatura::Pezzo_Intero ? interi : prime) << appunti;
       EXPECT_THAT(macchina.messaggi, ElementsAre("dai una occhiata e premi ok...", "fatto.."));
+      EXPECT_EQ(schermo.Esito.testo, Voci().empty() ? "" : "da salvare") << appunti;
       EXPECT_FALSE(Esiste(nomi_file::Esclusi));
     }
   }
@@ -185,6 +187,9 @@ TEST_F(Schermo_Degli_Esclusi, IlTestoIncollatoSiVedePrimaDellOk) {
   EXPECT_EQ(schermo.Appunti.testo, "12\nRossi  Mario");
   Incolla_Esclusi(programma, schermo, Incollatura::Prima_Parola);
   EXPECT_EQ(schermo.Appunti.testo, "12\nRossi\nMario");
+  macchina.appunti = "12\r\n13";
+  Incolla_Esclusi(programma, schermo, Incollatura::Pezzo_Intero);
+  EXPECT_EQ(schermo.Appunti.testo, "12\n13");
 }
 
 TEST_F(Schermo_Degli_Esclusi, UnGuastoLasciaFileETabelleEQuantoSiVede) {

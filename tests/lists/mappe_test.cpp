@@ -197,7 +197,7 @@ TEST_P(Mappa_Disegnata, LeScritteStannoNellaCorniceESeparate) {
     const double larga = mappa.basso_destra.x - mappa.alto_sinistra.x;
     for (std::size_t k = i + 1; k < mappa.bersagli.size(); ++k) {
       const Punto_Mappa b = mappa.bersagli[k].scritta;
-      // a label is at most a sixteenth as wide as the narrowest map and a third as high as wide
+      // a label takes about a sixteenth of the map in width and a fortieth of that width in height
       EXPECT_TRUE(std::abs(a.x - b.x) > larga / 16 || std::abs(a.y - b.y) > larga / 40)
           << mappa.bersagli[i].numero << " e " << mappa.bersagli[k].numero;
     }

@@ -272,7 +272,9 @@ QString Testo_Controllo(const Controllo_Trovato& controllo) {
     return QString::number(avanzamento->value());
   if (const auto* lista = qobject_cast<QAbstractItemView*>(widget)) {
     const QModelIndex indice = lista->currentIndex();
-    return indice.isValid() ? Riga_Di(controllo, indice.row()) : QString();
+    if (indice.isValid()) return Riga_Di(controllo, indice.row());
+    // A list that is one line (a heading) is its text.
+    return lista->model()->rowCount() == 1 ? Riga_Di(controllo, 0) : QString();
   }
   if (const QString didascalia = Didascalia(widget); !didascalia.isEmpty()) return didascalia;
   const QVariant testo = widget->property("text");

@@ -7,18 +7,13 @@
 #include <variant>
 
 #include "core/piattaforma.h"
+#include "printing/registratore.h"
 
 namespace giornata {
 
 enum class Tasto_Risposta { OK, Annulla };
 // What the script queued for a question or an input box.
 using Risposta = std::variant<Tasto_Risposta, Testo>;
-
-// What the page device drew: one line of text for each drawn thing.
-struct Registro_Pagine {
-  std::vector<Testo> righe;
-  int pagine = 0;
-};
 
 // The machine of a working day: keeps every text it was shown, answers from the script's queue, and changes
 // only when the script says so.
@@ -28,12 +23,13 @@ class Piattaforma_Copione : public Piattaforma {
   std::deque<Testo> domande;      // questions and input boxes answered and not yet checked
   std::deque<Risposta> risposte;  // to the next ones
   std::string programma;          // the last program started, its arguments after a blank each
-  Registro_Pagine pagine;
+  Registro_Pagine pagine;         // what the page device drew
   Data oggi{2025, 3, 14};
   char separatore = ',';
   Testo appunti;
   std::vector<Volume> volumi;
   std::optional<Stampante> stampante = Stampante{"Registro", false};
+  Registratore dispositivo{stampante, pagine};
   bool terminata = false;
   // A question came for which no fitting answer stood in the queue. Doesn't return: a program that asks again
   // until it is content would never end.
@@ -50,6 +46,7 @@ class Piattaforma_Copione : public Piattaforma {
   Testo Appunti() override { return appunti; }
   std::vector<Volume> Volumi() override { return volumi; }
   std::optional<Stampante> Stampante_Corrente() override { return stampante; }
+  Printer& Dispositivo() override { return dispositivo; }
   bool Avvia_Programma(const Percorso& file, const std::vector<Testo>& argomenti) override;
   void Apri_Con_Desktop(const Percorso& file_o_cartella) override;
   void Termina() override { terminata = true; }

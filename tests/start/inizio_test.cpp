@@ -427,7 +427,7 @@ TEST_F(Inizio, Una_lista_cancellata_torna_all_apertura_del_giorno) {
 TEST_F(Inizio, Shift_F1_lavora_sulla_copia_dat) {
   Scrivi("2025/20250314.txt", Riga_Giorno("0001", "Mare"));
   Carica();
-  EXPECT_FALSE(inizio.sfondo);
+  EXPECT_EQ(inizio.sfondo, (Colore{255, 255, 255}));
   EXPECT_TRUE(TastoInizio(programma, inizio, {Tasto::F1, true}));
   EXPECT_TRUE(programma.Modo_Dat);
   EXPECT_EQ(inizio.sfondo, (Colore{128, 128, 128}));
@@ -437,7 +437,7 @@ TEST_F(Inizio, Shift_F1_lavora_sulla_copia_dat) {
 
   EXPECT_TRUE(TastoInizio(programma, inizio, {Tasto::F1, true}));
   EXPECT_FALSE(programma.Modo_Dat);
-  EXPECT_FALSE(inizio.sfondo);
+  EXPECT_EQ(inizio.sfondo, (Colore{255, 255, 255}));
 }
 
 TEST_F(Inizio, Una_copia_dat_senza_il_giorno_ha_una_riga_vera) {
@@ -465,7 +465,7 @@ TEST_F(Inizio, Shift_F2_cancella_le_copie_dat_dell_anno_scelto) {
     EXPECT_FALSE(Manca("2024/20240301.txt"));
     EXPECT_FALSE(Manca("2025/20250301.dat"));
     EXPECT_FALSE(programma.Modo_Dat);
-    EXPECT_FALSE(inizio.sfondo);
+    EXPECT_EQ(inizio.sfondo, (Colore{255, 255, 255}));
     const std::vector<Testo> attesi = risposta ? std::vector<Testo>{"Tutto OK..."} : std::vector<Testo>{};
     EXPECT_EQ(macchina.messaggi, attesi);
   }

@@ -1,0 +1,64 @@
+#include "printing/nomi_stampe.h"
+
+#include <array>
+
+namespace {
+
+constexpr std::size_t lunghezza_massima = 120;
+
+// No desktop takes these in a file name, or a name that begins or ends with a dot.
+constexpr Vista vietati = "/\\:*?\"<>|";
+
+Testo Parte_Di_Nome(Vista testo) {
+  Testo esito;
+  for (const char c : Pulito(testo)) {
+    const auto byte = static_cast<unsigned char>(c);
+    esito += byte < 0x20 || byte == 0x7F || vietati.find(c) != Vista::npos ? '-' : c;
+  }
+  return esito;
+}
+
+Vista Genere(const Documento& documento) {
+  const Vista genere = Pulito(documento.genere);
+  return genere.empty() ? Vista("Stampa") : genere;
+}
+
+// "20250314" as "14/03/2025"; anything else as it stands.
+Testo Giorno_Leggibile(Vista giorno) {
+  if (giorno.size() != 8) return Testo(giorno);
+  return Testo(giorno.substr(6, 2)) + "/" + Testo(giorno.substr(4, 2)) + "/" + Testo(giorno.substr(0, 4));
+}
+
+}  // namespace
+
+Testo Nome_Stampa(const Documento& documento) {
+  const std::array<Vista, 4> parti = {documento.giorno, Genere(documento), documento.numero,
+                                      documento.codice};
+  Testo esito;
+  for (const Vista parte : parti) {
+    const Testo pezzo = Parte_Di_Nome(parte);
+    if (pezzo.empty()) continue;
+    esito += (esito.empty() ? "" : " ") + pezzo;
+  }
+  esito = Pulito(Sinistra(esito, lunghezza_massima));
+  for (char* bordo : {&esito.front(), &esito.back()})
+    if (*bordo == '.') *bordo = '-';
+  return esito;
+}
+
+Testo Titolo_Stampa(const Documento& documento) {
+  Testo esito(Genere(documento));
+  if (!Pulito(documento.numero).empty()) esito.append(" ").append(Pulito(documento.numero));
+  if (!Pulito(documento.giorno).empty())
+    esito.append(" del ").append(Giorno_Leggibile(Pulito(documento.giorno)));
+  if (!Pulito(documento.codice).empty()) esito.append(" - ").append(Pulito(documento.codice));
+  return esito;
+}
+
+Percorso File_Stampa(const Disco& disco, const Percorso& cartella, const Documento& documento) {
+  const Testo nome = Nome_Stampa(documento);
+  Percorso file = Unisci_Percorso(cartella, nome + ".pdf");
+  for (int n = 2; disco.Esiste_File(file) || disco.Esiste_Cartella(file); ++n)
+    file = Unisci_Percorso(cartella, nome + " (" + std::to_string(n) + ").pdf");
+  return file;
+}

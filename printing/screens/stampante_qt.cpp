@@ -1,0 +1,309 @@
+#include "printing/screens/stampante_qt.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include <QBuffer>
+#include <QFontDatabase>
+#include <QGlyphRun>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QPrinter>
+#include <QPrinterInfo>
+
+#include "platform/testo_qt.h"
+#include "printing/nomi_stampe.h"
+#include "printing/registratore.h"
+
+namespace {
+
+constexpr int punti_per_pollice = 1200;
+constexpr double mm_per_pollice = 25.4;
+
+QColor In_QColor(const Colore& colore) { return {colore.rosso, colore.verde, colore.blu}; }
+
+QFont Fonte(const QString& famiglia, const Carattere_Stampa& carattere) {
+  QFont fonte(famiglia);
+  fonte.setBold(carattere.grassetto);
+  fonte.setItalic(carattere.corsivo);
+  fonte.setHintingPreference(QFont::PreferNoHinting);
+  fonte.setKerning(false);
+  return fonte;
+}
+
+// The family that is drawn: that of the tables, or the one that was asked for, where the machine has it.
+QString Famiglia(const Testo& nome) {
+  const QString chiesta = In_QString(nome);
+  if (!Faccia_Propria(nome) && QFontDatabase::hasFamily(chiesta)) return chiesta;
+  return In_QString(Nome_Faccia(Faccia_Di(nome)));
+}
+
+bool Misurata_Da_Noi(const Testo& nome) {
+  return Faccia_Propria(nome) || !QFontDatabase::hasFamily(In_QString(nome));
+}
+
+bool Si_Vede(char c) {
+  const auto byte = static_cast<unsigned char>(c);
+  constexpr unsigned char indefiniti[] = {0x7F, 0x81, 0x8D, 0x8F, 0x90, 0x9D};
+  return byte >= 0x20 &&
+         std::find(std::begin(indefiniti), std::end(indefiniti), byte) == std::end(indefiniti);
+}
+
+QPageLayout::Orientation In_Qt(int orientamento) {
+  return orientamento == Orizzontale ? QPageLayout::Landscape : QPageLayout::Portrait;
+}
+
+}  // namespace
+
+// A document in work. The paper outlives the painter on it.
+struct Stampante_Qt::Lavoro {
+  Documento documento;
+  QBuffer contenuto;  // of a PDF, which goes to the disk as a whole
+  std::unique_ptr<QPagedPaintDevice> carta;
+  QPainter pennello;
+  bool pdf = false;
+
+  double punti(double millimetri) const { return millimetri * carta->logicalDpiX() / mm_per_pollice; }
+  QPen penna(int larghezza, const Colore& colore) const {
+    QPen esito(In_QColor(colore));
+    esito.setWidthF(punti(std::max(larghezza, 1) * Millimetri_Per_Penna));
+    esito.setCapStyle(Qt::FlatCap);
+    esito.setJoinStyle(Qt::MiterJoin);
+    return esito;
+  }
+};
+
+Stampante_Qt::Stampante_Qt(Percorso cartella_ditta)
+    : cartella_stampe_(Unisci_Percorso(cartella_ditta, Cartella_Stampe)) {}
+
+Stampante_Qt::~Stampante_Qt() = default;
+
+QStringList Stampante_Qt::Stampanti_Di_Sistema() const {
+  QStringList nomi = QPrinterInfo::availablePrinterNames();
+  const QString prima = QPrinterInfo::defaultPrinterName();
+  if (nomi.removeOne(prima)) nomi.prepend(prima);
+  return nomi;
+}
+
+std::unique_ptr<QPrinter> Stampante_Qt::Stampante_Di_Sistema(const QString& nome) const {
+  const QPrinterInfo info = QPrinterInfo::printerInfo(nome);
+  if (info.isNull()) return nullptr;
+  return std::make_unique<QPrinter>(info, QPrinter::HighResolution);
+}
+
+std::optional<Stampante_Qt::Scelta> Stampante_Qt::Trova(const QString& nome) const {
+  const auto stampante = Stampante_Di_Sistema(nome);
+  if (!stampante) return std::nullopt;
+  const QPageLayout pagina = stampante->pageLayout();
+  const bool sdraiata = pagina.orientation() == QPageLayout::Landscape;
+  return Scelta{Da_QString(nome), sdraiata ? Orizzontale : Verticale, pagina};
+}
+
+const Stampante_Qt::Scelta& Stampante_Qt::In_Uso() const {
+  if (scelta_) return *scelta_;
+  QStringList nomi = Stampanti_Di_Sistema();
+  nomi.removeAll(In_QString(Stampante_PDF));
+  if (!nomi.isEmpty()) scelta_ = Trova(nomi.front());
+  if (!scelta_) scelta_ = Scelta{Testo(Stampante_PDF), Verticale, {}};
+  return *scelta_;
+}
+
+std::optional<Testo> Stampante_Qt::DeviceName() {
+  const Scelta& scelta = In_Uso();
+  if (scelta.nome == Stampante_PDF && !disco.Esiste_Cartella(cartella_stampe_) &&
+      disco.Crea_Cartella(cartella_stampe_) != 0)
+    return std::nullopt;
+  return scelta.nome;
+}
+
+std::vector<Testo> Stampante_Qt::Stampanti() {
+  std::vector<Testo> nomi;
+  const QStringList sistema = Stampanti_Di_Sistema();
+  for (const QString& nome : sistema)
+    if (Da_QString(nome) != Stampante_PDF) nomi.push_back(Da_QString(nome));
+  nomi.emplace_back(Stampante_PDF);
+  return nomi;
+}
+
+bool Stampante_Qt::Prendi_Stampante(const Testo& nome) {
+  avvisato_ = false;
+  if (nome == Stampante_PDF) {
+    scelta_ = Scelta{nome, Orientamento(), {}};
+    return true;
+  }
+  auto trovata = Trova(In_QString(nome));
+  if (!trovata) return false;
+  scelta_ = std::move(trovata);
+  return true;
+}
+
+int Stampante_Qt::Orientamento() const { return In_Uso().orientamento; }
+
+void Stampante_Qt::Orienta(int orientamento) {
+  In_Uso();
+  scelta_->orientamento = orientamento;
+}
+
+QPageLayout Stampante_Qt::Pagina(int orientamento) const {
+  const Scelta& scelta = In_Uso();
+  QPageLayout pagina =
+      scelta.nome == Stampante_PDF
+          ? QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(), QPageLayout::Millimeter)
+          : scelta.pagina;
+  pagina.setUnits(QPageLayout::Millimeter);
+  pagina.setOrientation(In_Qt(orientamento));
+  return pagina;
+}
+
+Carta Stampante_Qt::Foglio(int orientamento) const {
+  if (In_Uso().nome == Stampante_PDF) return Foglio_A4(orientamento);
+  const QPageLayout pagina = Pagina(orientamento);
+  const QRectF foglio = pagina.fullRect(), stampabile = pagina.paintRect();
+  if (stampabile.isEmpty()) return Foglio_A4(orientamento);
+  return {foglio.width(), foglio.height(), stampabile.width(), stampabile.height()};
+}
+
+bool Stampante_Qt::Inizia_Documento() {
+  if (!DeviceName()) return false;
+  auto lavoro = std::make_unique<Lavoro>();
+  lavoro->documento = documento;
+  lavoro->pdf = In_Uso().nome == Stampante_PDF;
+  const QString titolo = In_QString(Titolo_Stampa(documento));
+  if (lavoro->pdf) {
+    lavoro->contenuto.open(QIODevice::WriteOnly);
+    auto carta = std::make_unique<QPdfWriter>(&lavoro->contenuto);
+    carta->setResolution(punti_per_pollice);
+    carta->setTitle(titolo);
+    carta->setCreator(QStringLiteral("Velmara"));
+    lavoro->carta = std::move(carta);
+  } else {
+    auto carta = Stampante_Di_Sistema(In_QString(In_Uso().nome));
+    if (!carta || !carta->isValid()) return false;
+    carta->setDocName(titolo);
+    carta->setCreator(QStringLiteral("Velmara"));
+    lavoro->carta = std::move(carta);
+  }
+  lavoro_ = std::move(lavoro);
+  return true;
+}
+
+void Stampante_Qt::Inizia_Pagina(int pagina, int orientamento) {
+  lavoro_->carta->setPageLayout(Pagina(orientamento));
+  if (pagina == 1)
+    lavoro_->pennello.begin(lavoro_->carta.get());
+  else
+    lavoro_->carta->newPage();
+}
+
+void Stampante_Qt::Finisci_Documento() {
+  lavoro_->pennello.end();
+  if (lavoro_->pdf) Consegna_PDF();
+  lavoro_.reset();
+}
+
+void Stampante_Qt::Consegna_PDF() {
+  lavoro_->carta.reset();
+  const QByteArray& byte = lavoro_->contenuto.data();
+  const Percorso file = File_Stampa(disco, cartella_stampe_, lavoro_->documento);
+  const int errore = disco.Sostituisci(file, Vista(byte.constData(), static_cast<std::size_t>(byte.size())));
+  if (errore != 0) {
+    Perso(errore);
+    return;
+  }
+  avvisato_ = false;
+  ultimo_pdf_ = file;
+  if (Apri_Alla_Fine && mostra) mostra(file);
+}
+
+void Stampante_Qt::Perso(int errore) {
+  if (avvisato_ || !avviso) return;
+  avvisato_ = true;
+  avviso("Il documento\n" + Titolo_Stampa(lavoro_->documento) + "\nnon è stato scritto nella cartella\n"_t +
+         Testo_Percorso(cartella_stampe_) + "\n" + Testo_Errore(errore));
+}
+
+const QRawFont& Stampante_Qt::Carattere(const Carattere_Stampa& carattere) {
+  const auto [posto, nuovo] =
+      caratteri_.try_emplace({carattere.nome, carattere.grassetto, carattere.corsivo});
+  if (nuovo) posto->second = QRawFont::fromFont(Fonte(Famiglia(carattere.nome), carattere));
+  return posto->second;
+}
+
+const Metrica& Stampante_Qt::Misure(const Carattere_Stampa& carattere) {
+  if (Misurata_Da_Noi(carattere.nome)) return Printer::Misure(carattere);
+  const auto [posto, nuova] = misure_.try_emplace({carattere.nome, carattere.grassetto, carattere.corsivo});
+  Metrica& metrica = posto->second;
+  if (!nuova) return metrica;
+  QRawFont fonte = Carattere(carattere);
+  fonte.setPixelSize(metrica.quadrato);
+  metrica.sopra = static_cast<int>(std::lround(fonte.ascent()));
+  metrica.sotto = static_cast<int>(std::lround(fonte.descent()));
+  for (std::size_t i = 0; i < metrica.larghezze.size(); ++i) {
+    const char c = static_cast<char>(i);
+    if (!Si_Vede(c)) continue;
+    const auto segni = fonte.glyphIndexesForString(In_QString(Vista(&c, 1)));
+    const auto passi = fonte.advancesForGlyphIndexes(segni);
+    if (!passi.isEmpty()) metrica.larghezze[i] = static_cast<std::uint16_t>(std::lround(passi.front().x()));
+  }
+  return metrica;
+}
+
+// Letter by letter at the places that the tables give: no pair of letters is moved together, no width is
+// rounded.
+void Stampante_Qt::Disegna(double x, double y, const Carattere_Stampa& carattere, Vista testo) {
+  const Metrica& metrica = Misure(carattere);
+  const double corpo = lavoro_->punti(carattere.punti * Millimetri_Per_Punto),
+               unita = corpo / metrica.quadrato;
+  QRawFont fonte = Carattere(carattere);
+  fonte.setPixelSize(corpo);
+  Testo visibile;
+  QList<QPointF> posti;
+  double avanti = 0;
+  for (const char c : testo) {
+    if (!Si_Vede(c)) continue;
+    visibile += c;
+    posti.append({avanti, 0});
+    avanti += metrica.larghezze[static_cast<unsigned char>(c)] * unita;
+  }
+  QGlyphRun segni;
+  segni.setRawFont(fonte);
+  segni.setGlyphIndexes(fonte.glyphIndexesForString(In_QString(visibile)));
+  segni.setPositions(posti);
+  lavoro_->pennello.setPen(In_QColor(Nero));
+  lavoro_->pennello.drawGlyphRun({lavoro_->punti(x), lavoro_->punti(y) + metrica.sopra * unita}, segni);
+}
+
+void Stampante_Qt::Disegna(const Segno& segno) {
+  QPainter& pennello = lavoro_->pennello;
+  const QPointF da(lavoro_->punti(segno.x1), lavoro_->punti(segno.y1));
+  const QPointF a(lavoro_->punti(segno.x2), lavoro_->punti(segno.y2));
+  const QRectF rettangolo = QRectF(da, a).normalized();
+  if (segno.tratto == Tratto::Pieno) {
+    pennello.fillRect(rettangolo, In_QColor(segno.colore));
+    return;
+  }
+  pennello.setPen(lavoro_->penna(segno.penna, segno.colore));
+  pennello.setBrush(Qt::NoBrush);
+  if (segno.tratto == Tratto::Linea)
+    pennello.drawLine(da, a);
+  else
+    pennello.drawRect(rettangolo);
+}
+
+void Stampante_Qt::Disegna(const Ovale& ovale) {
+  QPainter& pennello = lavoro_->pennello;
+  const double rx = lavoro_->punti(ovale.raggio_x), ry = lavoro_->punti(ovale.raggio_y);
+  const QRectF intorno(lavoro_->punti(ovale.x) - rx, lavoro_->punti(ovale.y) - ry, 2 * rx, 2 * ry);
+  pennello.setPen(lavoro_->penna(ovale.penna, ovale.colore));
+  pennello.setBrush(Qt::NoBrush);
+  if (ovale.inizio == ovale.fine) {
+    pennello.drawEllipse(intorno);
+    return;
+  }
+  constexpr double sedicesimi_di_grado = 16 * 180 / std::numbers::pi;
+  const double giro = 2 * std::numbers::pi;
+  const double arco = std::fmod(std::fmod(ovale.fine - ovale.inizio, giro) + giro, giro);
+  pennello.drawArc(intorno, static_cast<int>(std::lround(ovale.inizio * sedicesimi_di_grado)),
+                   static_cast<int>(std::lround(arco * sedicesimi_di_grado)));
+}
