@@ -47,7 +47,7 @@ struct Programma {
   // last numbers issued, _2020_ncv.txt
   std::int32_t Ultimo_CV = 0, Ultimo_DDT = 0, Ultima_NA = 0, Ultima_Fattura = 0;
   bool Numeri_Da_Salvare = false;  // the last writing failed
-  bool Numeri_Ignoti = false;  // the file is there and couldn't be read: it must not be replaced by zeros
+  bool Numeri_Ignoti = false;      // the file is there and couldn't be read: it must not be replaced by zeros
 
   // reference lists; columns in the order of their files
   TabellaLista<9> Vet_Clienti, Vet_Fornitori;

@@ -84,6 +84,7 @@ void Stampa_Liste(Programma& programma, Testo& titolo) {
   printer.documento = {programma.Data_AAAAMMGG, "Liste", "", ""};
   PreparaPagina(programma);
   PreparaPagina(programma);
+  printer.FontItalic = false;
   const Impaginazione carta = Misura(programma, printer);
   const std::vector<Riga_Stampa> righe = Righe_Liste(programma);
   const int numero = static_cast<int>(righe.size());

@@ -6,6 +6,8 @@
 #include <QPointer>
 #include <QScreen>
 
+#include "platform/tasti_qt.h"
+
 Finestra::Finestra(const QString& nome, QWidget* padre, Qt::WindowFlags modi)
     : QWidget(padre, modi), legame(this, [this] { mostra(); }) {
   setObjectName(nome);
@@ -36,6 +38,16 @@ void Finestra::esegui() {
 void Finestra::closeEvent(QCloseEvent* evento) {
   QWidget::closeEvent(evento);
   if (evento->isAccepted()) emit chiusa();
+}
+
+void FinestraModulo::keyPressEvent(QKeyEvent* evento) {
+  const Pressione pressione = Da_QKeyEvent(*evento);
+  if (pressione.tasto == Tasto::Invio && pressione.Nudo())
+    focusNextChild();
+  else if (pressione.tasto == Tasto::Esc && pressione.Nudo())
+    close();
+  else
+    Finestra::keyPressEvent(evento);
 }
 
 void Mostra_Finestre() {

@@ -30,6 +30,17 @@ class Finestra : public QWidget {
   Legame legame;
 };
 
+// A screen to fill in like a paper form: Enter goes on to the next line, Esc closes it.
+class FinestraModulo : public Finestra {
+  Q_OBJECT
+
+ public:
+  using Finestra::Finestra;
+
+ protected:
+  void keyPressEvent(QKeyEvent* evento) override;
+};
+
 // Every screen now visible shows its state. The machine's interface calls it before it repaints or asks,
 // since the logic has changed states that no event has shown yet.
 void Mostra_Finestre();

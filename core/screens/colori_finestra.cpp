@@ -3,7 +3,6 @@
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -11,7 +10,6 @@
 
 #include "core/programma.h"
 #include "platform/aspetto.h"
-#include "platform/tasti_qt.h"
 #include "platform/testo_qt.h"
 
 namespace {
@@ -34,7 +32,7 @@ QGroupBox* Riquadro_Titolato(const QString& titolo) {
 }  // namespace
 
 ColoriFinestra::ColoriFinestra(Programma& programma, QWidget* padre)
-    : Finestra(QStringLiteral("Colori"), padre, Qt::Window), programma_(programma) {
+    : FinestraModulo(QStringLiteral("Colori"), padre, Qt::Window), programma_(programma) {
   Apri_Colori(programma_, schermo_);
   setWindowTitle(In_QString(schermo_.titolo));
 
@@ -144,14 +142,4 @@ void ColoriFinestra::mostra() {
   Finestra::mostra();
   Dipingi(normale_, schermo_.Normale);
   Dipingi(selezionato_, schermo_.Selezionato);
-}
-
-void ColoriFinestra::keyPressEvent(QKeyEvent* evento) {
-  const Pressione pressione = Da_QKeyEvent(*evento);
-  if (pressione.tasto == Tasto::Invio && pressione.Nudo())
-    focusNextChild();
-  else if (pressione.tasto == Tasto::Esc && pressione.Nudo())
-    close();
-  else
-    Finestra::keyPressEvent(evento);
 }

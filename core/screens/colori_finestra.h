@@ -8,15 +8,12 @@ class QLabel;
 class QPushButton;
 
 // The colours screen `Colori`: ink and background of the ledger lists.
-class ColoriFinestra : public Finestra {
+class ColoriFinestra : public FinestraModulo {
   Q_OBJECT
 
  public:
   explicit ColoriFinestra(Programma& programma, QWidget* padre = nullptr);
   void mostra() override;
-
- protected:
-  void keyPressEvent(QKeyEvent* evento) override;
 
  private:
   QGroupBox* fa_inchiostri();

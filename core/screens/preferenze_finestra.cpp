@@ -9,13 +9,11 @@
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
 #include "core/programma.h"
 #include "platform/aspetto.h"
-#include "platform/tasti_qt.h"
 #include "platform/testo_qt.h"
 
 namespace {
@@ -115,7 +113,7 @@ QWidget* Rientrato(QWidget* widget) {
 
 PreferenzeFinestra::PreferenzeFinestra(Programma& programma, std::function<void()> larghezza_edita,
                                        QWidget* padre)
-    : Finestra(QStringLiteral("Preferenze"), padre, Qt::Window), programma_(programma) {
+    : FinestraModulo(QStringLiteral("Preferenze"), padre, Qt::Window), programma_(programma) {
   schermo_.larghezza_edita = std::move(larghezza_edita);
   Apri_Preferenze(programma_, schermo_, Fonti_Della_Macchina());
   setWindowTitle(In_QString(schermo_.titolo));
@@ -237,14 +235,4 @@ QLayout* PreferenzeFinestra::fa_comandi() {
       bottone->setMinimumHeight(bottone->fontMetrics().height() * 2);
     }
   return riga;
-}
-
-void PreferenzeFinestra::keyPressEvent(QKeyEvent* evento) {
-  const Pressione pressione = Da_QKeyEvent(*evento);
-  if (pressione.tasto == Tasto::Invio && pressione.Nudo())
-    focusNextChild();
-  else if (pressione.tasto == Tasto::Esc && pressione.Nudo())
-    close();
-  else
-    Finestra::keyPressEvent(evento);
 }

@@ -8,16 +8,13 @@ class QGroupBox;
 class QPushButton;
 
 // The preferences screen `Preferenze`: every setting in sight at once, in groups by subject.
-class PreferenzeFinestra : public Finestra {
+class PreferenzeFinestra : public FinestraModulo {
   Q_OBJECT
 
  public:
   // `larghezza_edita` lets the open entry screen follow FlagBarra; may be empty.
   explicit PreferenzeFinestra(Programma& programma, std::function<void()> larghezza_edita = {},
                               QWidget* padre = nullptr);
-
- protected:
-  void keyPressEvent(QKeyEvent* evento) override;
 
  private:
   QGroupBox* fa_gruppo(Gruppo gruppo, const QString& titolo);

@@ -2,14 +2,12 @@
 
 #include <QBoxLayout>
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
 #include "core/numeri.h"
 #include "core/piattaforma.h"
 #include "platform/aspetto.h"
-#include "platform/tasti_qt.h"
 
 namespace {
 
@@ -40,7 +38,7 @@ QString Qt_Di(const char16_t* testo) { return QString::fromUtf16(testo); }
 }  // namespace
 
 PrimoAvvioFinestra::PrimoAvvioFinestra(Piattaforma& piattaforma, char separatore)
-    : Finestra(QStringLiteral("PrimoAvvio"), nullptr, Qt::Dialog),
+    : FinestraModulo(QStringLiteral("PrimoAvvio"), nullptr, Qt::Dialog),
       piattaforma_(piattaforma),
       separatore_(separatore) {
   setWindowTitle(QStringLiteral("Prima Nota - Primo avvio"));
@@ -115,16 +113,6 @@ void PrimoAvvioFinestra::conferma() {
   }
   confermato_ = true;
   close();
-}
-
-void PrimoAvvioFinestra::keyPressEvent(QKeyEvent* evento) {
-  const Pressione pressione = Da_QKeyEvent(*evento);
-  if (pressione.tasto == Tasto::Invio && pressione.Nudo())
-    focusNextChild();  // as on a paper form: the next line
-  else if (pressione.tasto == Tasto::Esc && pressione.Nudo())
-    close();
-  else
-    Finestra::keyPressEvent(evento);
 }
 
 std::optional<PrimoAvvio> PrimoAvvioFinestra::chiedi() {

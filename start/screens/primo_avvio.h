@@ -11,7 +11,7 @@ class QLabel;
 class QLineEdit;
 
 // The first run in a new folder asks who the firm is: the seven letterhead lines, the firm's code, the stall.
-class PrimoAvvioFinestra : public Finestra {
+class PrimoAvvioFinestra : public FinestraModulo {
   Q_OBJECT
 
  public:
@@ -19,9 +19,6 @@ class PrimoAvvioFinestra : public Finestra {
 
   // Stands until it is confirmed or cancelled (nothing).
   std::optional<PrimoAvvio> chiedi();
-
- protected:
-  void keyPressEvent(QKeyEvent* evento) override;
 
  private:
   void conferma();

@@ -1,6 +1,7 @@
+#include "lists/genera.h"
+
 #include "core/giorno.h"
 #include "lists/dati.h"
-#include "lists/genera.h"
 #include "lists/semi.h"
 #include "tests/lists/cartella_ditta.h"
 
@@ -169,9 +170,8 @@ TEST(Elenco_Di_Riferimento, SpecieParlanti) {
                                        {"KCP", "Abadeco (Genypterus capensis)", "Genypterus capensis"}};
   const auto elenco = Seme_Specie();
   for (const auto& [alfa, descrizione, latino] : note) {
-    const auto riga =
-        std::find_if(elenco.begin(), elenco.end(),
-                     [&codice = alfa](const auto& r) { return r[specie::Alfa] == codice; });
+    const auto riga = std::find_if(elenco.begin(), elenco.end(),
+                                   [&codice = alfa](const auto& r) { return r[specie::Alfa] == codice; });
     ASSERT_NE(riga, elenco.end()) << alfa;
     EXPECT_EQ((*riga)[specie::Descrizione], descrizione);
     EXPECT_EQ((*riga)[specie::NomeLatino], latino);

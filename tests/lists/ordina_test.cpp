@@ -1,5 +1,6 @@
-#include "lists/consolida.h"
 #include "lists/ordina.h"
+
+#include "lists/consolida.h"
 #include "tests/lists/cartella_ditta.h"
 
 using testing::ElementsAre;

@@ -27,6 +27,26 @@ TEST(Macchina_Copione, ComeSiTrovaSeIlCopioneNonDiceAltro) {
   EXPECT_EQ(macchina.pagine.pagine, 0);
 }
 
+// What the program prints comes to the steps about pages, and the script's printer is the one it prints on.
+TEST(Macchina_Copione, QuelloCheSiStampaArrivaAlleRighe) {
+  Macchina macchina;
+  macchina.stampante = Stampante{"Banco", true};
+  Printer& printer = macchina.Dispositivo();
+  EXPECT_EQ(printer.Orientation(), Orizzontale);
+  printer.Print("Peso Kg");
+  printer.Orientation(Verticale);
+  printer.EndDoc();
+  EXPECT_EQ(macchina.pagine.righe,
+            (std::vector<Testo>{"documento \"Stampa\" Banco", "pagina 1 orizzontale 297x210",
+                                "p1 testo 0.00 0.00 Arial 10: Peso Kg", "fine"}));
+  EXPECT_EQ(macchina.pagine.pagine, 1);
+  EXPECT_FALSE(macchina.stampante->orizzontale);
+  macchina.pagine = {};
+  macchina.stampante.reset();
+  printer.Print("niente");
+  EXPECT_TRUE(macchina.pagine.righe.empty());
+}
+
 TEST(Macchina_Copione, LeDomandePrendonoLeRisposteInFila) {
   Macchina macchina;
   macchina.risposte = {Tasto_Risposta::OK, Tasto_Risposta::Annulla, Testo("12"), Tasto_Risposta::OK,

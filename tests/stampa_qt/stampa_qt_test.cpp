@@ -10,6 +10,7 @@
 #include <QRawFont>
 #include <QRegularExpression>
 
+#include "platform/piattaforma_qt.h"
 #include "platform/testo_qt.h"
 #include "printing/nomi_stampe.h"
 #include "printing/pagina.h"
@@ -325,6 +326,18 @@ TEST_F(Stampa_Qt, SenzaStampanteDiSistemaLaPrimaSceltaEPDF) {
   EXPECT_EQ(nessuna.DeviceName(), "PDF");
   EXPECT_THAT(nessuna.Stampanti(), ElementsAre("PDF"));
   EXPECT_EQ(nessuna.Orientation(), Verticale);
+}
+
+TEST_F(Stampa_Qt, LaMacchinaDiceLaStampanteInUso) {
+  Piattaforma_Qt macchina(stampante);
+  EXPECT_EQ(&macchina.Dispositivo(), &stampante);
+  stampante.Orientation(Orizzontale);
+  ASSERT_TRUE(macchina.Stampante_Corrente());
+  EXPECT_EQ(macchina.Stampante_Corrente()->nome, "PDF");
+  EXPECT_TRUE(macchina.Stampante_Corrente()->orizzontale);
+  std::filesystem::remove(ditta.cartella / "Stampe");
+  ditta.cartella.Metti("Stampe", "un file");
+  EXPECT_FALSE(macchina.Stampante_Corrente());
 }
 
 // Where a file stands in the folder's place nothing can be printed, and the captions say so.

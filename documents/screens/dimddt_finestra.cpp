@@ -1,0 +1,121 @@
+#include "documents/screens/dimddt_finestra.h"
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+
+#include "lists/screens/parti.h"
+#include "platform/aspetto.h"
+#include "platform/testo_qt.h"
+
+DimDDTFinestra::DimDDTFinestra(Programma& programma, QWidget* padre)
+    : FinestraModulo(QStringLiteral("DimDDT"), padre, Qt::Window), programma_(programma) {
+  Apri_DimDDT(programma_, schermo_);
+  setWindowTitle(In_QString(schermo_.titolo));
+  setFont(Carattere(punti_normali));
+
+  const Gruppo_Campi misure[] = {
+      {"&Foglio",
+       {"DocSani_LarghezzaPagina", "DocSani_AltezzaPagina"},
+       {"ModuloContinuo", "FoglioA4"},
+       false},
+      {"&Margini",
+       {"DocSani_Offset_Logo", "DocSani_Aggiustamento", "DocSani_AltezzaDest", "DocSani_dadestra"},
+       {"PredefinitoMargini"},
+       false},
+      {"&Bollo", {"StringaCEE", "ellisse_centrox", "ellisse_centroy"}, {"PredefinitoEllisse"}, false}};
+  const Gruppo_Campi testi[] = {
+      {"&Intestazione",
+       {"DS_intesta1", "DS_intesta2", "DS_intesta3", "DS_intesta4", "DS_intesta5", "DS_intesta6"},
+       {"PredefinitoIntestazione"},
+       true},
+      {"&Titolo", {"TitoloBolla"}, {"PredefinitoTitolo"}, true},
+      {"&Piede", {"PiedePaginaBolla1", "PiedePaginaBolla2"}, {"PredefinitoPiede"}, true}};
+  auto* sinistra = new QVBoxLayout;
+  for (const Gruppo_Campi& gruppo : misure) sinistra->addWidget(fa_gruppo(gruppo));
+  sinistra->addStretch();
+  auto* destra = new QVBoxLayout;
+  for (const Gruppo_Campi& gruppo : testi) destra->addWidget(fa_gruppo(gruppo));
+  auto* piede = new QCheckBox;
+  legame.lega(piede, QStringLiteral("FlagPiedePagina"), schermo_.FlagPiedePagina);
+  piede->setText(In_QString(schermo_.FlagPiedePagina.didascalia));
+  piede->setAccessibleName(piede->text());
+  destra->addWidget(piede);
+  destra->addStretch();
+  auto* affiancate = new QHBoxLayout;
+  affiancate->setSpacing(14);
+  affiancate->addLayout(sinistra);
+  affiancate->addLayout(destra, 1);
+
+  auto* tutto = new QVBoxLayout(this);
+  tutto->setContentsMargins(18, 14, 18, 14);
+  tutto->setSpacing(12);
+  tutto->addLayout(affiancate, 1);
+  tutto->addLayout(fa_comandi());
+  mostra();
+}
+
+QGroupBox* DimDDTFinestra::fa_gruppo(const Gruppo_Campi& gruppo) {
+  auto* riquadro = new QGroupBox(QString::fromUtf8(gruppo.titolo));
+  riquadro->setFont(Carattere(punti_normali, true));
+  auto* griglia = new QGridLayout(riquadro);
+  griglia->setVerticalSpacing(5);
+  for (const Vista chiave : gruppo.campi) fa_campo(griglia, chiave, gruppo.testi);
+  auto* bottoni = new QHBoxLayout;
+  bottoni->addStretch();
+  for (const Vista nome : gruppo.predefiniti)
+    bottoni->addWidget(fa_bottone(In_QString(nome), schermo_.predefiniti.find(nome)->second,
+                                  [this, nome] { Riempi_DimDDT(programma_, schermo_, nome); }));
+  griglia->addLayout(bottoni, griglia->rowCount(), 0, 1, 2);
+  return riquadro;
+}
+
+void DimDDTFinestra::fa_campo(QGridLayout* griglia, Vista chiave, bool testo) {
+  const QString nome = In_QString(chiave);
+  auto* campo = new CasellaTesto;
+  campo->setFont(Carattere(punti_normali));
+  legame.lega(campo, nome, schermo_.campi.find(chiave)->second, [this] { Tocca_DimDDT(schermo_); });
+  const int riga = griglia->rowCount();
+  Scritta& didascalia = schermo_.didascalie.find(chiave)->second;
+  campo->setAccessibleName(didascalia.testo.empty() ? nome : In_QString(didascalia.testo));
+  if (!didascalia.testo.empty()) {
+    auto* scritta = new QLabel;
+    scritta->setFont(Carattere(punti_normali));
+    legame.lega(scritta, QStringLiteral("Caption_") + nome, didascalia);
+    scritta->setBuddy(campo);
+    griglia->addWidget(scritta, riga, 0, 1, testo ? 2 : 1);
+  }
+  const int larghezza = campo->fontMetrics().averageCharWidth();
+  if (testo) {
+    campo->setMinimumWidth(larghezza * 60);
+    griglia->addWidget(campo, riga + 1, 0, 1, 2);
+  } else {
+    campo->setFixedWidth(larghezza * 16);
+    griglia->addWidget(campo, riga, 1);
+  }
+}
+
+QBoxLayout* DimDDTFinestra::fa_comandi() {
+  auto* riga = new QHBoxLayout;
+  riga->addStretch();
+  riga->addWidget(fa_bottone(QStringLiteral("Conferma"), schermo_.Conferma,
+                             [this] { Conferma_DimDDT(programma_, schermo_); }));
+  riga->addWidget(fa_bottone(QStringLiteral("Chiudi"), schermo_.Chiudi, [this] { Chiudi_DimDDT(schermo_); }));
+  return riga;
+}
+
+QPushButton* DimDDTFinestra::fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento) {
+  QPushButton* bottone = Fa_Bottone(stato);
+  legame.lega(bottone, nome, stato, std::move(evento));
+  return bottone;
+}
+
+void DimDDTFinestra::mostra() {
+  Finestra::mostra();
+  if (!schermo_.chiusa) return;
+  schermo_.chiusa = false;  // asked once
+  QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+}
