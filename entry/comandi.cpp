@@ -111,7 +111,7 @@ void Accoda_Aiuti(std::vector<Voce_Menu>& voci) {
   for (const Voce_Aiuto& aiuto : Aiuti()) {
     if (aiuto.nome == "Aiuto_Etichette") {
       voci.push_back({"Help", "Campi", "Aiuto_Campi", true, Tasto::Altro});
-      voci.push_back({"Help", "Stampa Liste", "Stampa_Liste", false, Tasto::Altro});
+      voci.push_back({"Help", "Stampa Liste", "Stampa_Liste", true, Tasto::Altro});
       voci.push_back({"Help", "salva lista Specie", "Salva_Lista_Specie", true, Tasto::Altro});
     }
     voci.push_back({"Help", aiuto.voce, aiuto.nome, true, Tasto::Altro});
@@ -128,7 +128,7 @@ const std::vector<Voce_Menu>& Voci_Menu() {
         {"Pref.", "Preferenze Operative", "Preferenze_Operative", true, Tasto::Altro},
         {"Pref.", "Preferenze per Doc. Sanitario e DDI", "Preferenze_Documenti", false, Tasto::Altro},
         {"Pref.", "Preferenze Fatture Personalizzate", "Preferenze_Fatture", false, Tasto::Altro},
-        {"Pref.", "Stampante", "Stampante", false, Tasto::Altro},
+        {"Pref.", "Stampante", "Stampante", true, Tasto::Altro},
         {"Pref.", "Colore Lista", "Colore_Lista", true, Tasto::Altro},
         {"Pref.", "Rinnova Liste", "Rinnova_Liste", true, Tasto::Altro},
         {"Mappe", "Mediterraaneo FAO 37", "Mappa", true, Tasto::F1},

@@ -22,9 +22,11 @@
 #include "entry/screens/semaforo.h"
 #include "lists/anagrafica_specie.h"
 #include "lists/mappe.h"
+#include "lists/stampa_liste.h"
 #include "platform/aspetto.h"
 #include "platform/tasti_qt.h"
 #include "platform/testo_qt.h"
+#include "printing/screens/stampante_finestra.h"
 
 namespace {
 
@@ -65,6 +67,8 @@ void EditaFinestra::prepara_azioni() {
       {QStringLiteral("Preferenze_Operative"), [this] { apri_preferenze(); }},
       {QStringLiteral("Colore_Lista"), [this] { ColoriFinestra(programma_, this).esegui(); }},
       {QStringLiteral("Riduce_Edita"), [this] { riduci_edita(); }},
+      {QStringLiteral("Stampante"), [this] { StampanteFinestra(programma_, this).esegui(); }},
+      {QStringLiteral("Stampa_Liste"), [this] { Stampa_Liste(programma_, edita_.titolo); }},
       {QStringLiteral("Memorizza_Fornitore"), con_stato(MemorizzaFornitore)},
       {QStringLiteral("Memorizza_Specie"), con_stato(MemorizzaSpecie)},
       {QStringLiteral("Lotti"), con_stato(AttribuisciLotti)},
