@@ -123,6 +123,7 @@ const std::vector<Voce_Menu>& Voci_Menu() {
     std::vector<Voce_Menu> tutte = {
         {"File", "Cancella Tutto", "Cancella_Tutto", true, Tasto::Altro},
         {"File", "Salva", "Salva", true, Tasto::Altro},
+        {"File", "Vettori", "Vettori", true, Tasto::Altro},
         {"File", "Controllo CV", "Controllo_CV", false, Tasto::Altro},
         {"File", "Chiudi", "Chiudi", true, Tasto::Altro},
         {"Pref.", "Preferenze Operative", "Preferenze_Operative", true, Tasto::Altro},

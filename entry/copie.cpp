@@ -38,6 +38,7 @@ Testo NomeSpecie(Vista descrizione) {
   Vista nome = Pulito(descrizione);
   nome = Pulito(nome.substr(0, nome.find('(')));
   for (int i = 0; i < 3 && nome.ends_with(')'); ++i) nome.remove_suffix(1);
+  nome = Pulito_Destra(nome);
   return Testo(nome);
 }
 

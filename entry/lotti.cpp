@@ -15,16 +15,6 @@ bool Nessuna_Riga(const Programma& programma) {
   return std::ranges::all_of(programma.Vet_Tabella.righe, E_Segnaposto);
 }
 
-// The fields show the selected row as it stands in the table, nothing keyed over it.
-bool CampiComeLaRiga(const Programma& programma, const Edita& edita) {
-  const int n = edita.hd.valore;
-  if (n < 1 || n > programma.Vet_Tabella.Righe()) return false;
-  const LedgerRow& riga = programma.Vet_Tabella.Riga(n);
-  for (std::size_t i = 0; i < edita.Text1.size(); ++i)
-    if (edita.Text1[i].testo != riga.campi[i]) return false;
-  return true;
-}
-
 // Runs over the rows; the supplier that stopped it, nothing when all rows were done.
 std::optional<Testo> ScriviLotti(Programma& programma, Vista data) {
   const Clessidra clessidra(programma.piattaforma);
@@ -62,11 +52,11 @@ void AttribuisciLotti(Programma& programma, Edita& edita) {
   if (!programma.piattaforma.Domanda(
           "Questa procedura attribuisce automaticamente un numero di lotto\n a ciascuna specie. Il lotto è formato dal codice del fornitore + \nla data del giono precedente questa prima nota.\ni lotti relativi alle rimanenze dovranno essere modificati manualmente.\nOK per continuare...."_t))
     return;
-  const bool campi_intatti = CampiComeLaRiga(programma, edita);
   const auto senza_codice = ScriviLotti(programma, data);
   edita.albero.ListaVoci.Cambiato();
-  // or F4 would put the old lot back into the row
-  if (campi_intatti) CaricaRiga(programma, edita);
+  // What the operator has keyed stays, but for the lot: F4 would put the old one back into the row.
+  if (const int n = edita.hd.valore; n >= 1 && n <= programma.Vet_Tabella.Righe())
+    Campo(edita, CampoRiga::Lotti).testo = programma.Vet_Tabella(CampoRiga::Lotti, n);
   if (senza_codice)
     programma.piattaforma.Messaggio(*senza_codice + "\nsenza codice....Inserire i codici dei fornitori...");
 }

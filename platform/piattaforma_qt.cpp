@@ -11,11 +11,13 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPointer>
 #include <QProcess>
 #include <QPushButton>
+#include <QScreen>
 #include <QStorageInfo>
 #include <QTimer>
 #include <QUrl>
@@ -72,6 +74,16 @@ class Interruzione {
   QPointer<QWidget> finestra_;
 };
 
+// Texts come with their own line ends: lines that fit the screen aren't broken a second time.
+void Righe_Intere(QMessageBox& box) {
+  auto* scritta = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  if (!scritta) return;
+  int larga = 0;
+  const auto righe = box.text().split(QLatin1Char('\n'));
+  for (const QString& riga : righe) larga = std::max(larga, scritta->fontMetrics().horizontalAdvance(riga));
+  if (larga < box.screen()->availableGeometry().width() * 3 / 4) scritta->setMinimumWidth(larga + 4);
+}
+
 bool Mostra_Messaggio(const Testo& testo, Icona icona, const Testo& titolo, bool annullabile) {
   Mostra_Finestre();
   const Interruzione interruzione;
@@ -79,6 +91,7 @@ bool Mostra_Messaggio(const Testo& testo, Icona icona, const Testo& titolo, bool
                   interruzione.finestra());
   box.setTextFormat(Qt::PlainText);
   box.setFont(Carattere(punti_messaggio));
+  Righe_Intere(box);
   QPushButton* ok = box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
   box.setDefaultButton(ok);
   if (annullabile)

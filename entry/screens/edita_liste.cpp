@@ -6,6 +6,7 @@
 #include "lists/screens/fornitori_finestra.h"
 #include "lists/screens/liste_finestre.h"
 #include "lists/screens/mappa_finestra.h"
+#include "lists/screens/vettori_finestra.h"
 #include "platform/testo_qt.h"
 
 // The list windows and maps that the entry form opens, and what they bring back.
@@ -22,6 +23,8 @@ void EditaFinestra::prepara_azioni_liste() {
     activateWindow();
     riprendi_fuoco();
   };
+  // The carriers go into the carrier's invoice and nowhere in the row: here the firm only keeps the list.
+  azioni_[QStringLiteral("Vettori")] = [this, ripresa] { Apri_Vettori(programma_, this, {}, ripresa); };
   azioni_[QStringLiteral("Esclusi")] = [this, ripresa] { Apri_Esclusi(programma_, this, ripresa); };
   azioni_[QStringLiteral("Escludi_Codice")] = [this, ripresa] {
     Escludi_Questo_Codice(programma_, this, edita_.Text1[Indice(CampoRiga::CodCliente)].testo, ripresa);

@@ -159,6 +159,8 @@ void AnagraficaFinestra::apri_modulo() {
   if (!modulo_) {
     modulo_ = std::make_unique<ModuloFinestra>(programma_, schermo_, this);
     connect(modulo_.get(), &ModuloFinestra::mostrata, this, [this] { mostra(); });
+    // not every desktop gives the keyboard back by itself
+    connect(modulo_.get(), &ModuloFinestra::chiusa, this, [this] { activateWindow(); });
     connect(modulo_.get(), &ModuloFinestra::comando, this,
             [this](Vista nome) { emit comando(nome, modulo_.get()); });
   }

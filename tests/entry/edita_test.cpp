@@ -386,16 +386,16 @@ TEST(Comandi, VociDiMenu) {
   }
   EXPECT_THAT(
       funzionano,
-      ElementsAre("Cancella Tutto", "Salva", "Chiudi", "Preferenze Operative", "Stampante", "Colore Lista",
-                  "Rinnova Liste", "Mediterraaneo FAO 37", "Tutto l Mondo", "Per Immissione", "Per Fornitore",
-                  "Per Cliente", "Per Cliente e specie", "per Codice Cliente", "Per Specie", "Per Prezzo",
-                  "Per Num. Conto Vendita", "Per Provenienza", "per aliquota IVA", "Per Fattura", "Per DDT",
-                  "Per Fornitore+Specie+Immissione", "Per Attrezzo di pesca", "Per Pezzatura",
-                  "Per Stato Fisico", "Per Lavorazione", "Per Preparazione", "Come Doc Sanitario",
-                  "PrefSpecie", "PrefFornitori", "&Lista_F12", "Aiuto", "Lotti", "Fatture 1", "Fatture 2",
-                  "Transazioni", "Numerazione DDT e DS", "Specie e Fornitori Predefiniti", "Prezzo per cassa",
-                  "Export Prima Nota Esteso", "Campi", "Stampa Liste", "salva lista Specie", "Etichette",
-                  "Marca"));
+      ElementsAre("Cancella Tutto", "Salva", "Vettori", "Chiudi", "Preferenze Operative", "Stampante",
+                  "Colore Lista", "Rinnova Liste", "Mediterraaneo FAO 37", "Tutto l Mondo", "Per Immissione",
+                  "Per Fornitore", "Per Cliente", "Per Cliente e specie", "per Codice Cliente", "Per Specie",
+                  "Per Prezzo", "Per Num. Conto Vendita", "Per Provenienza", "per aliquota IVA",
+                  "Per Fattura", "Per DDT", "Per Fornitore+Specie+Immissione", "Per Attrezzo di pesca",
+                  "Per Pezzatura", "Per Stato Fisico", "Per Lavorazione", "Per Preparazione",
+                  "Come Doc Sanitario", "PrefSpecie", "PrefFornitori", "&Lista_F12", "Aiuto", "Lotti",
+                  "Fatture 1", "Fatture 2", "Transazioni", "Numerazione DDT e DS",
+                  "Specie e Fornitori Predefiniti", "Prezzo per cassa", "Export Prima Nota Esteso", "Campi",
+                  "Stampa Liste", "salva lista Specie", "Etichette", "Marca"));
   Marca(g.edita);
   EXPECT_EQ(DidascaliaMenu(g.edita, Menu().back()), "SMarca");
 }

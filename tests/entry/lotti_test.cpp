@@ -125,13 +125,14 @@ TEST(Lotti, LaRigaDaScrivereSiSalta) {
   EXPECT_THAT(g.macchina.messaggi, ElementsAre());
 }
 
-TEST(Lotti, QuelloCheSiStaScrivendoResta) {
+// With the old lot in its field F4 would undo the new one, and the day would go to disk so.
+TEST(Lotti, QuelloCheSiStaScrivendoRestaMaNonIlLottoVecchio) {
   Giornata_Lotti g;
   g.MettiRighe({"Mare Blu"});
   g.Scrivi(C::Commento, "nuovo");
   g.macchina.risposte = {true};
   AttribuisciLotti(g.programma, g.edita);
-  EXPECT_EQ(g[C::Lotti], "vecchio");
+  EXPECT_EQ(g[C::Lotti], "MB250313");
   EXPECT_EQ(g[C::Commento], "nuovo");
 }
 

@@ -274,7 +274,8 @@ TEST(Specie, Nome) {
   };
   for (const Caso& caso :
        {Caso{"Orata (Grande)", "Orata"}, Caso{" Orata ", "Orata"}, Caso{"Orata", "Orata"},
-        Caso{"Orata)))", "Orata"}, Caso{"Orata))))", "Orata)"}, Caso{"(x)", ""}, Caso{"", ""}})
+        Caso{"Orata)))", "Orata"}, Caso{"Orata))))", "Orata)"}, Caso{"Sepp )) )", "Sepp ))"},
+        Caso{"Orata )", "Orata"}, Caso{"(x)", ""}, Caso{"", ""}})
     EXPECT_EQ(NomeSpecie(caso.voce), caso.nome);
 }
 
