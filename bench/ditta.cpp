@@ -1,7 +1,7 @@
 #include "bench/ditta.h"
 
+#include <cstdlib>
 #include <stdexcept>
-#include <stdlib.h>
 
 #include "core/giorno.h"
 #include "core/numeri.h"

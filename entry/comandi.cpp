@@ -38,6 +38,7 @@ Stato_Comando Degli_Esclusi(const Programma& programma, const Edita& edita) {
 }
 
 const std::vector<Voce_Comando>& Futuri() {
+  const Testo totale = "totale € e Kg per fornitore"_t;
   static const std::vector<Voce_Comando> voci = {
       {"Conti_Vendita", "Conti Ven&dita F2", "", Tasto::F2},
       {"Prima_Nota", "&Prima Nota F6", "", Tasto::F6},
@@ -45,7 +46,7 @@ const std::vector<Voce_Comando>& Futuri() {
       {"DSI", "DSI", "stampa documento sanitario per il cliente selezionato", Tasto::Altro},
       {"DSI_Riga", "DSI 1R", "stampa documento sanitario per la riga selezionata", Tasto::Altro},
       {"Fat", "Fat", "", Tasto::Altro},
-      {"Saldo", "Saldo", "totale € e Kg per fornitore"_t, Tasto::Altro},
+      {"Saldo", "Saldo", totale, Tasto::Altro},
       {"KgCli", "KgCli", "numero immissioni e Kg per cliente", Tasto::Altro},
       {"Cerca_Acquirente", "Cerca &Acquirente", "numero immissioni e Kg per cliente", Tasto::Altro},
       {"Stat", "Stat", "", Tasto::Altro},

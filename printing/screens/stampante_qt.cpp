@@ -74,7 +74,7 @@ struct Stampante_Qt::Lavoro {
   }
 };
 
-Stampante_Qt::Stampante_Qt(Percorso cartella_ditta)
+Stampante_Qt::Stampante_Qt(const Percorso& cartella_ditta)
     : cartella_stampe_(Unisci_Percorso(cartella_ditta, Cartella_Stampe)) {}
 
 Stampante_Qt::~Stampante_Qt() = default;

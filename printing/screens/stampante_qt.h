@@ -20,7 +20,7 @@ class QPrinter;
 // measured by its own widths.
 class Stampante_Qt : public Printer {
  public:
-  explicit Stampante_Qt(Percorso cartella_ditta);
+  explicit Stampante_Qt(const Percorso& cartella_ditta);
   ~Stampante_Qt() override;
 
   Disco disco;
