@@ -183,3 +183,16 @@ struct Giornata_Di_Prova {
   Testo Titolo() const { return edita.titolo; }
   Vista Luce() const { return Parola(edita.SemaforoRiga); }
 };
+
+// A day of two rows, the fields of a good row typed.
+struct Giorno_Di_Due : Giornata_Di_Prova {
+  Giorno_Di_Due() {
+    programma.Vet_Tabella.righe = {RigaDelGiorno(1, "Trattoria Lido", "00124", "001"),
+                                   RigaDelGiorno(2, "Lagunare", "00200", "002")};
+    Apri();
+    Compila();
+    Fuoco();
+  }
+  void Aggiunge() { Aggiungi(programma, edita); }
+  void Modifica_Riga() { Modifica(programma, edita); }
+};
