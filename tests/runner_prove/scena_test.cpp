@@ -1,7 +1,8 @@
 #include "tests/runner/scena.h"
 
-#include <fstream>
 #include <gtest/gtest.h>
+
+#include "tests/core/cartella_temporanea.h"
 
 namespace giornata {
 
@@ -12,19 +13,14 @@ namespace fs = std::filesystem;
 class Scena_Prova : public testing::Test {
  protected:
   Scena_Prova() {
-    radice = fs::path(testing::TempDir()) / "scena_prova";
-    fs::remove_all(radice);
-    scena.radice = radice / "giornata";
-    scena.accanto = radice / "copioni";
+    scena.radice = cartella / "giornata";
+    scena.accanto = cartella / "copioni";
     fs::create_directories(scena.radice);
-    fs::create_directories(scena.accanto / "DOC_SANI" / "2025");
-    fs::create_directories(scena.accanto / "chiave");
-    std::ofstream(scena.accanto / "DOC_SANI" / "2025" / "a.txt") << "a";
-    std::ofstream(scena.accanto / "chiave" / "b.txt") << "b";
+    cartella.Metti("copioni/DOC_SANI/2025/a.txt", "a");
+    cartella.Metti("copioni/chiave/b.txt", "b");
   }
-  ~Scena_Prova() override { fs::remove_all(radice); }
 
-  Percorso radice;
+  const Cartella_Temporanea cartella;  // each test its own: the tests run side by side
   Scena scena;
 };
 
