@@ -42,7 +42,6 @@ const std::vector<Voce_Comando>& Futuri() {
   static const std::vector<Voce_Comando> voci = {
       {"Conti_Vendita", "Conti Ven&dita F2", "", Tasto::F2},
       {"Prima_Nota", "&Prima Nota F6", "", Tasto::F6},
-      {"Doc_Trasporto", "&Doc. Trasporto", "", Tasto::Altro},
       {"DSI", "DSI", "stampa documento sanitario per il cliente selezionato", Tasto::Altro},
       {"DSI_Riga", "DSI 1R", "stampa documento sanitario per la riga selezionata", Tasto::Altro},
       {"Fat", "Fat", "", Tasto::Altro},
@@ -92,6 +91,7 @@ const std::vector<Regola>& Regole() {
          Sempre},
         {{"Riduce_Edita", "Riduce finestra Edita", "", Tasto::Altro}, Sempre},
         {{"Esclusi", "Esclusi", "", Tasto::Altro}, Degli_Esclusi},
+        {{"Doc_Trasporto", "&Doc. Trasporto", "", Tasto::Altro}, Sempre},
         {{"Escludi_Codice", "Escludi questo codice", "", Tasto::Altro}, Sempre},
         {{"Chiudi", "&Chiudi", "", Tasto::Altro}, Sempre},
     };
@@ -158,6 +158,17 @@ std::span<const Voce_Comando> Comandi() {
     return tutte;
   }();
   return voci;
+}
+
+std::span<const Vista> Comandi_Altrui() {
+  static const std::vector<Vista> nomi = {
+      "Doc_Trasporto",
+  };
+  return nomi;
+}
+
+void ChiediSchermo(Edita& edita, Vista comando) {
+  if (!Occupata(edita)) edita.schermo = Testo(comando);
 }
 
 std::span<const Voce_Comando> Comandi_Futuri() { return Futuri(); }

@@ -16,6 +16,11 @@ struct Voce_Comando {
 
 // Commands that work. Names are those of the routines they run.
 std::span<const Voce_Comando> Comandi();
+// Names of those commands and menu entries whose screens stand in other rooms: the application gives the
+// entry screen's window what opens them.
+std::span<const Vista> Comandi_Altrui();
+// Such a command was given: its screen opens once the event is done.
+void ChiediSchermo(Edita& edita, Vista comando);
 // Commands whose screens aren't there yet: the window shows their buttons disabled.
 std::span<const Voce_Comando> Comandi_Futuri();
 

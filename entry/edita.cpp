@@ -219,6 +219,13 @@ void VaiRiga(Programma& programma, Edita& edita, int n) {
   CaricaRiga(programma, edita);
 }
 
+void RiprendiEdita(Programma& programma, Edita& edita) {
+  edita.riga_marcata = false;
+  edita.albero.ListaVoci.Cambiato();
+  VaiRiga(programma, edita, edita.hd.valore);
+  TitoloVoci(programma, edita);
+}
+
 void CambiaHd(Programma& programma, Edita& edita, int valore) {
   if (Occupata(edita)) return;
   VaiRiga(programma, edita, valore);

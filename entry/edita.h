@@ -61,6 +61,7 @@ struct Edita {
   int fuoco = nessun_fuoco;
   static constexpr int nessun_fuoco = -1, fuoco_List1 = -2, fuoco_schermo = -3;
   Richiesta richiesta = Richiesta::Nessuna;
+  Testo schermo;  // the command whose screen, of another room, shall open; the window clears it
   bool filtro_in_corso = false;  // the look-up list is being filled
   bool riga_marcata = false;     // row 1 is listed as one to be keyed, though the table has no mark
   bool bottoni_liste = true;     // the small buttons beside the fields are shown
@@ -96,7 +97,10 @@ void CambiaHd(Programma& programma, Edita& edita, int valore);
 void VaiRiga(Programma& programma, Edita& edita, int n);  // selects row n (brought into range) and loads it
 void RigaSuccessiva(Programma& programma, Edita& edita);  // F9, from the last to the first
 void RigaPrecedente(Programma& programma, Edita& edita);  // F8
-Testo RigaVoci(const Programma& programma, int n);        // the list line of row n
+// A screen of another room is gone and may have changed, sorted or loaded anew the rows: list and fields
+// follow.
+void RiprendiEdita(Programma& programma, Edita& edita);
+Testo RigaVoci(const Programma& programma, int n);  // the list line of row n
 Testo TitoliVoci();
 void Semaforo(Edita& edita, StatoSemaforo stato);
 

@@ -1,4 +1,5 @@
 #include "core/numeri.h"
+#include "entry/comandi.h"
 #include "entry/edita.h"
 #include "entry/liste_campi.h"
 #include "lists/liste.h"
@@ -195,6 +196,12 @@ bool TastoSchermo(Programma& programma, Edita& edita, const Pressione& pressione
     if (!Occupata(edita)) comando.esegue(programma, edita);
     return true;
   }
+  for (const Vista nome : Comandi_Altrui())
+    for (const Voce_Comando& voce : Comandi()) {
+      if (voce.nome != nome || voce.tasto != pressione.tasto || voce.tasto == Tasto::Altro) continue;
+      ChiediSchermo(edita, nome);
+      return true;
+    }
   return false;
 }
 

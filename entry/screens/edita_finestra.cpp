@@ -85,7 +85,13 @@ void EditaFinestra::prepara_azioni() {
     azioni_[In_QString(ordine.nome)] = [this, &ordine] { Ordina(programma_, edita_, ordine); };
   for (const Voce_Aiuto& aiuto : Aiuti())
     azioni_[In_QString(aiuto.nome)] = [this, nome = aiuto.nome] { MostraAiuto(programma_, nome); };
+  for (const Vista nome : Comandi_Altrui())
+    azioni_[In_QString(nome)] = [this, nome] { ChiediSchermo(edita_, nome); };
   prepara_azioni_liste();
+}
+
+void EditaFinestra::apre(const QString& comando, std::function<void()> schermo) {
+  schermi_[comando] = std::move(schermo);
 }
 
 void EditaFinestra::esegui_comando(const QString& nome) {
@@ -371,6 +377,12 @@ void EditaFinestra::apri_preferenze() {
 
 // A window that the logic, a button or a menu asked for, once the event that asked is done.
 void EditaFinestra::apri_richiesta() {
+  const auto schermo = schermi_.find(In_QString(std::exchange(edita_.schermo, {})));
+  if (schermo != schermi_.end()) {
+    schermo->second();
+    legame.esegui([this] { RiprendiEdita(programma_, edita_); });
+    return;
+  }
   switch (std::exchange(edita_.richiesta, Richiesta::Nessuna)) {
     case Richiesta::Nessuna:
       return;

@@ -34,6 +34,8 @@ class EditaFinestra : public Finestra {
   void apri();    // a day was opened: sizes of the settings, the keyboard
   bool chiudi();  // the closing routine; false when the day stays open
   void mostra() override;
+  // What opens the screen, of another room, of a command.
+  void apre(const QString& comando, std::function<void()> schermo);
   void riprendi_fuoco();  // the keyboard comes back to the field it was in
 
  signals:
@@ -97,6 +99,7 @@ class EditaFinestra : public Finestra {
   Lotti_Predefiniti lotti_;
   std::array<CasellaTesto*, Num_Campi> campi_{};
   std::map<QString, std::function<void()>> azioni_;
+  std::map<QString, std::function<void()>> schermi_;  // of other rooms, by the command that opens them
   std::map<QString, Comando> comandi_;
   std::vector<std::pair<QAction*, const Voce_Menu*>> voci_mutevoli_;  // captions that change
   std::vector<QWidget*> piegabili_;  // what goes away while the form is folded

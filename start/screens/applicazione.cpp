@@ -9,6 +9,7 @@
 #include "start/screens/b_inizio.h"
 #include "start/screens/cornice.h"
 #include "start/screens/primo_avvio.h"
+#include "start/screens/schermi.h"
 
 struct Applicazione::Interno {
   Interno(Piattaforma& piattaforma, Percorso dove) : programma(piattaforma), cartella(std::move(dove)) {}
@@ -51,6 +52,7 @@ void Applicazione::Interno::fa_finestre() {
   QObject::connect(albero, &AlberoFinestra::riga_scelta, edita_finestra, &EditaFinestra::mostra);
   QObject::connect(albero, &AlberoFinestra::fuoco_rifiutato, edita_finestra, &EditaFinestra::riprendi_fuoco);
   QObject::connect(albero, &AlberoFinestra::riduci, cornice.get(), &Cornice::riduci);
+  Prepara_Schermi(programma, edita, *edita_finestra);
   cornice->chiusura = [this] { chiusura(); };
 }
 
