@@ -144,8 +144,7 @@ void Apri_Anagrafica(Programma& programma, SchermoAnagrafica& schermo, const Ana
   schermo.Copia.testo = "C&opia";
   schermo.Copia.attivo = static_cast<bool>(schermo.copia);
   schermo.Privacy.testo = "&Privacy";
-  schermo.Privacy.visibile = anagrafica.con_privacy;
-  schermo.Privacy.attivo = false;
+  schermo.Privacy.visibile = schermo.Privacy.attivo = anagrafica.destinatario != nullptr;
   schermo.Chiudi.testo = schermo.ChiudiModulo.testo = "&Chiudi";
   schermo.Cerca.suggerimento = "Invio: la voce seguente";
 
@@ -213,6 +212,17 @@ void Copia_Voce(SchermoAnagrafica& schermo) {
   if (r < 0 || !schermo.copia) return;
   schermo.Esito.testo = "copiato";
   schermo.copia(static_cast<std::size_t>(r));
+}
+
+void Lettera_Privacy(Programma& programma, SchermoAnagrafica& schermo) {
+  const int scelta = Riga_Scelta(schermo);
+  if (scelta < 0) return programma.piattaforma.Messaggio("Selezionare una voce della lista...");
+  const auto r = static_cast<std::size_t>(scelta);
+  const Destinatario destinatario = schermo.anagrafica->destinatario(programma, r);
+  if (!programma.piattaforma.Domanda("OK per stampare:\n" + destinatario[0])) return;
+  const auto lettera = CaricaPrivacy(programma);
+  if (!lettera) return;
+  StampaPrivacy(programma, *lettera, destinatario, schermo.anagrafica->tabella.riga(programma, r)[0]);
 }
 
 void Scegli_Voce(Programma& programma, SchermoAnagrafica& schermo) {

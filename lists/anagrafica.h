@@ -8,6 +8,7 @@
 
 #include "core/controlli.h"
 #include "core/programma.h"
+#include "lists/privacy.h"
 
 // A list of the firm with its two windows, the list and its editor: what customers, suppliers, carriers and
 // species have in common. What is different from list to list stands in an `Anagrafica`, a table of data.
@@ -93,7 +94,8 @@ struct Anagrafica {
   void (*componi)(const Programma&, std::span<Testo> valori, bool nuova) = nullptr;
   Aggiunta aggiunta = Aggiunta::Tutto_Il_File;
   bool letta_all_apertura = false;  // lists that no day opening reads
-  bool con_privacy = false;
+  // To whom the privacy letter of a row goes; null for lists without letters.
+  Destinatario (*destinatario)(const Programma&, std::size_t r) = nullptr;
 };
 
 struct SchermoAnagrafica {
@@ -131,7 +133,9 @@ void Ordina_Anagrafica(Programma& programma, SchermoAnagrafica& schermo, std::si
 // Selects the next line that holds the text of Cerca (ignoring case), from the selected one on and round to
 // the beginning. `oltre`: the selected line is passed over. Without a hit the selection stays.
 void Cerca_Voce(Programma& programma, SchermoAnagrafica& schermo, bool oltre = false);
-void Copia_Voce(SchermoAnagrafica& schermo);                         // nothing without a selection
+void Copia_Voce(SchermoAnagrafica& schermo);  // nothing without a selection
+// The privacy letter for the selected row, after a question.
+void Lettera_Privacy(Programma& programma, SchermoAnagrafica& schermo);
 void Scegli_Voce(Programma& programma, SchermoAnagrafica& schermo);  // another line was selected
 
 // ---- editor. Scroller and selected line always name the same row.

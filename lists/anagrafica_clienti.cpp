@@ -56,7 +56,10 @@ Anagrafica Descrizione() {
   clienti.incompleta = [](Programma&, std::span<const Testo> valori) {
     return Pulito(valori[cliente::Codice]).empty() || Pulito(valori[cliente::RagioneSociale1]).empty();
   };
-  clienti.con_privacy = true;
+  clienti.destinatario = [](const Programma& programma, std::size_t r) {
+    const auto& riga = programma.Vet_Clienti[r];
+    return Destinatario{riga[cliente::RagioneSociale1], {}, riga[cliente::Via], riga[cliente::Citta]};
+  };
   return clienti;
 }
 

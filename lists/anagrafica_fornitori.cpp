@@ -34,7 +34,11 @@ Anagrafica Descrizione() {
     return Pulito(valori[fornitore::Codice]).empty() || Pulito(valori[fornitore::RagioneSociale1]).empty();
   };
   fornitori.aggiunta = Aggiunta::In_Coda_Al_File;
-  fornitori.con_privacy = true;
+  fornitori.destinatario = [](const Programma& programma, std::size_t r) {
+    const auto& riga = programma.Vet_Fornitori[r];
+    return Destinatario{riga[fornitore::RagioneSociale1], riga[fornitore::RagioneSociale2],
+                        riga[fornitore::Via], riga[fornitore::Citta]};
+  };
   return fornitori;
 }
 

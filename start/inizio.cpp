@@ -1,5 +1,8 @@
 #include "start/inizio.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "core/giorno.h"
 #include "core/numeri.h"
 #include "core/profili.h"
@@ -86,13 +89,17 @@ void Scrivi_Didascalie(const Programma& programma, B_Inizio& inizio) {
   inizio.Command16.suggerimento = "Copia fatture e documenti nella chiavetta per servizio esterno di stampa";
 }
 
-// The one place that says which commands can be given. The tools that work on documents, removable media and
-// accounts can't be given in a program that has none of these.
+// The one place that says which commands can be given. The two tools of the invoices are off for good. Where
+// only sanitary documents are made there are no accounts to control and no invoices to convert.
 void Regola_Comandi(const Programma& programma, B_Inizio& inizio) {
-  for (Bottone* strumento : {&inizio.Command4, &inizio.Command6, &inizio.Command7, &inizio.Command8,
-                             &inizio.Command9, &inizio.Command14, &inizio.Command15, &inizio.Command16})
-    strumento->attivo = false;
-  inizio.Command6.visibile = Profilo_Ditta(programma.preferenze.Codice_Commissionario) != Profilo::Lagomar;
+  constexpr Profilo con_dat[] = {Profilo::Zenival, Profilo::Marvesi, Profilo::Sarvena, Profilo::Dolvena};
+  const Profilo profilo = Profilo_Ditta(programma.preferenze.Codice_Commissionario);
+  const bool conti = !Solo_Documenti_Sanitari(programma);
+  inizio.Command6.attivo = conti;
+  inizio.Command9.attivo = conti && std::ranges::find(con_dat, profilo) != std::end(con_dat);
+  inizio.Command15.attivo = inizio.Command16.attivo = false;
+  inizio.Command7.attivo = false;  // comes with the copies to sticks
+  inizio.Command6.visibile = profilo != Profilo::Lagomar;
   inizio.Command14.visibile = false;
   inizio.File1.visibile = false;
   inizio.Text2.attivo = !Solo_Documenti_Sanitari(programma);

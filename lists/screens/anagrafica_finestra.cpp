@@ -64,9 +64,10 @@ AnagraficaFinestra::AnagraficaFinestra(Programma& programma, const Anagrafica& a
   auto* tutto = new QVBoxLayout(this);
   tutto->setContentsMargins(margine, margine, margine, margine);
   tutto->setSpacing(10);
-  if (anagrafica.con_privacy) {
+  if (anagrafica.destinatario) {
     auto* menu = new QMenuBar(this);
-    legame.lega(menu->addAction(QString()), QStringLiteral("Privacy"), schermo_.Privacy);
+    legame.lega(menu->addAction(QString()), QStringLiteral("Privacy"), schermo_.Privacy,
+                [this] { Lettera_Privacy(programma_, schermo_); });
     tutto->setMenuBar(menu);
   }
   auto* ricerca = fa_ricerca();

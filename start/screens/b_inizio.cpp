@@ -13,6 +13,7 @@
 #include "platform/tasti_qt.h"
 #include "platform/testo_qt.h"
 #include "start/screens/quadro.h"
+#include "start/strumenti.h"
 
 namespace {
 
@@ -171,15 +172,18 @@ QWidget* B_InizioFinestra::fa_strumenti() {
     Bottone& stato;
     Legame::Evento evento;
   };
+  const auto strumento = [this](const char* nome) {
+    return [this, nome] { UsaStrumento(programma_, nome); };
+  };
   const std::vector<Voce> voci = {{"Command7", inizio_.Command7, {}},
                                   {"Command10", inizio_.Command10, [this] { GestioneListe(programma_); }},
-                                  {"Command6", inizio_.Command6, {}},
-                                  {"Command8", inizio_.Command8, {}},
-                                  {"Command4", inizio_.Command4, {}},
-                                  {"Command9", inizio_.Command9, {}},
-                                  {"Command14", inizio_.Command14, {}},
-                                  {"Command15", inizio_.Command15, {}},
-                                  {"Command16", inizio_.Command16, {}},
+                                  {"Command6", inizio_.Command6, strumento("Command6")},
+                                  {"Command8", inizio_.Command8, strumento("Command8")},
+                                  {"Command4", inizio_.Command4, strumento("Command4")},
+                                  {"Command9", inizio_.Command9, [this] { ConvertiDati(programma_); }},
+                                  {"Command14", inizio_.Command14, strumento("Command14")},
+                                  {"Command15", inizio_.Command15, strumento("Command15")},
+                                  {"Command16", inizio_.Command16, strumento("Command16")},
                                   {"Command5", inizio_.Command5, {}}};
   constexpr int per_riga = 5;
   auto* riquadro = new QGroupBox(QStringLiteral("Strumenti"));

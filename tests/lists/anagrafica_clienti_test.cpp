@@ -36,7 +36,7 @@ TEST_F(Anagrafica_Dei_Clienti, TitoloConIlNumeroECampiNellOrdineDelFile) {
             "Inserire partita iva ed eventualmente codice fiscale\n"
             "inserire eventualmente 12345678901 cf XXXXXX00Y00Z000Z");
   EXPECT_TRUE(schermo.Privacy.visibile);
-  EXPECT_FALSE(schermo.Privacy.attivo);
+  EXPECT_TRUE(schermo.Privacy.attivo);
 }
 
 // Printed lists of the firms are compared with the screen by these columns.

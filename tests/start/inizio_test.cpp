@@ -170,19 +170,31 @@ TEST_F(Inizio, Il_caricamento_legge_i_codici_esclusi) {
 
 TEST_F(Inizio, I_comandi_degli_strumenti) {
   Carica();
-  for (const Bottone* bottone : {&inizio.Command1, &inizio.Command2, &inizio.Command5, &inizio.Command10,
-                                 &inizio.Command11, &inizio.Command12}) {
+  for (const Bottone* bottone :
+       {&inizio.Command1, &inizio.Command2, &inizio.Command4, &inizio.Command5, &inizio.Command6,
+        &inizio.Command8, &inizio.Command10, &inizio.Command11, &inizio.Command12}) {
     EXPECT_TRUE(bottone->attivo) << bottone->testo;
     EXPECT_TRUE(bottone->visibile) << bottone->testo;
   }
-  for (const Bottone* bottone : {&inizio.Command4, &inizio.Command6, &inizio.Command7, &inizio.Command8,
-                                 &inizio.Command9, &inizio.Command15, &inizio.Command16}) {
+  for (const Bottone* bottone : {&inizio.Command7, &inizio.Command9, &inizio.Command15, &inizio.Command16}) {
     EXPECT_FALSE(bottone->attivo) << bottone->testo;
     EXPECT_TRUE(bottone->visibile) << bottone->testo;
   }
   EXPECT_FALSE(inizio.Command14.visibile);
   EXPECT_FALSE(inizio.File1.visibile);
   EXPECT_TRUE(inizio.Text2.attivo);
+}
+
+TEST_F(Inizio, Solo_quattro_ditte_hanno_il_file_dat) {
+  const std::vector<Profilo> con_dat = {Profilo::Zenival, Profilo::Marvesi, Profilo::Sarvena,
+                                        Profilo::Dolvena};
+  for (const Profilo profilo : {Profilo::Zenival, Profilo::Marvesi, Profilo::Sarvena, Profilo::Dolvena,
+                                Profilo::Lagomar, Profilo::Rovigal, Profilo::Fusinal}) {
+    programma.preferenze.Codice_Commissionario = Nome_Profilo(profilo);
+    Carica();
+    EXPECT_EQ(inizio.Command9.attivo, std::ranges::find(con_dat, profilo) != con_dat.end())
+        << Nome_Profilo(profilo);
+  }
 }
 
 TEST_F(Inizio, Lagomar_non_vede_il_controllo_dei_conti) {
@@ -204,7 +216,7 @@ TEST_F(Inizio, DOC_SANI_fa_solo_documenti_sanitari) {
     programma.Cartella_Dati = caso.cartella;
     Carica();
     EXPECT_EQ(inizio.Text2.attivo, caso.attivo) << caso.cartella;
-    EXPECT_FALSE(inizio.Command6.attivo);
+    EXPECT_EQ(inizio.Command6.attivo, caso.attivo) << caso.cartella;
   }
 }
 
