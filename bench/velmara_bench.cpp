@@ -5,10 +5,13 @@
 
 #include "bench/ditta.h"
 #include "core/giorno.h"
+#include "core/numeri.h"
 #include "entry/edita.h"
 #include "lists/liste.h"
+#include "printing/registratore.h"
 #include "start/avvio.h"
 #include "start/inizio.h"
+#include "stats/controllo_cv.h"
 
 // What the operator waits for, measured on a firm of size. Figures for people to read, not a test.
 
@@ -112,6 +115,32 @@ void Aggiunta(const Ditta& ditta, bool salvataggio) {
         giornata.macchina.messaggi.empty() ? "-" : In_Utf8(giornata.macchina.messaggi.back()).c_str());
 }
 
+// The account files of a whole year, one after the other.
+void Controllo_Conti(const Ditta& ditta) {
+  constexpr int conti = 5000;
+  Giornata giornata(ditta, 100);
+  Programma& programma = giornata.programma;
+  Registro_Pagine registro;
+  Registratore printer(giornata.macchina.stampante, registro);
+  giornata.macchina.dispositivo = &printer;
+  const Percorso cartella = programma.Cartella_Anno / "CV_NO";
+  programma.disco.Crea_Cartella(cartella);
+  for (int i = 1; i <= conti; ++i) {
+    const Testo nome =
+        Formato(1 + i % 12, "00", ',') + Formato(1 + i % 28, "00", ',') + Formato(i, "0000", ',');
+    programma.disco.Aggiungi(cartella / (nome + ".txt"),
+                             "Fornitore " + std::to_string(i % 60) + "\r\n100,10\r\n8,01\r\n");
+  }
+  ControlloCV controllo;
+  Apri_Controllo(programma, controllo);
+  controllo.Combo1.scelta = 12;
+  Misura("controlla 5000 conti vendita di un anno", 20, [&](int) { Leggi_Controllo(programma, controllo); });
+  if (controllo.Tabella_Controllo.size() != conti)
+    std::printf("  attenzione: letti %zu conti\n", controllo.Tabella_Controllo.size());
+  Misura("consolida 5000 conti vendita per fornitore", 1,
+         [&](int) { Consolida_Controllo(programma, controllo); });
+}
+
 }  // namespace
 
 int main() {
@@ -120,4 +149,5 @@ int main() {
   Ricerca_Cliente(ditta);
   Aggiunta(ditta, false);
   Aggiunta(ditta, true);
+  Controllo_Conti(ditta);
 }

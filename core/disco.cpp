@@ -335,6 +335,26 @@ int Crea_Con_Genitori(const Percorso& cartella) {
   return Fissa_Cartella(Cartella_Di(cartella));
 }
 
+// The names in a folder that are wanted, sorted by name ignoring case.
+template <class Voluto>
+std::vector<Percorso> Nomi_In(const Percorso& cartella, const Voluto& voluto) {
+  std::vector<std::pair<Testo, Percorso>> trovati;
+  std::error_code errore;
+  for (fs::directory_iterator voce(cartella, errore), fine; !errore && voce != fine; voce.increment(errore)) {
+    Percorso nome = voce->path().filename();
+    Testo testo = Testo_Percorso(nome);
+    if (voluto(*voce, testo)) trovati.emplace_back(std::move(testo), std::move(nome));
+  }
+  std::sort(trovati.begin(), trovati.end(), [](const auto& a, const auto& b) {
+    const int ordine = Confronta(a.first, b.first);
+    return ordine != 0 ? ordine < 0 : a.second.native() < b.second.native();
+  });
+  std::vector<Percorso> nomi;
+  nomi.reserve(trovati.size());
+  for (auto& [testo, nome] : trovati) nomi.push_back(std::move(nome));
+  return nomi;
+}
+
 }  // namespace
 
 Percorso In_Percorso(Vista testo) { return Percorso(In_Utf8(testo)); }
@@ -427,25 +447,26 @@ int Disco::Crea_Cartella(const Percorso& percorso) const {
   return Crea_Con_Genitori(trovato);
 }
 
+int Disco::Rendi_Eseguibile(const Percorso& percorso) const {
+  const Percorso file = Cerca(percorso);
+  const auto stato = Stato(file);
+  if (!stato) return ENOENT;
+  const mode_t lettura = stato->st_mode & 0444U;
+  return Esito(chmod(file.c_str(), (stato->st_mode & 07777U) | (lettura >> 2U)));
+}
+
 std::vector<Percorso> Disco::Elenca(const Percorso& cartella, Vista modello) const {
-  std::vector<std::pair<Testo, Percorso>> trovati;
-  std::error_code errore;
-  for (fs::directory_iterator voce(Cerca(cartella), errore), fine; !errore && voce != fine;
-       voce.increment(errore)) {
-    Percorso nome = voce->path().filename();
-    Testo testo = Testo_Percorso(nome);
+  return Nomi_In(Cerca(cartella), [modello](const fs::directory_entry& voce, Vista nome) {
     std::error_code illeggibile;
-    if (Corrisponde(testo, modello) && voce->is_regular_file(illeggibile))
-      trovati.emplace_back(std::move(testo), std::move(nome));
-  }
-  std::sort(trovati.begin(), trovati.end(), [](const auto& a, const auto& b) {
-    const int ordine = Confronta(a.first, b.first);
-    return ordine != 0 ? ordine < 0 : a.second.native() < b.second.native();
+    return Corrisponde(nome, modello) && voce.is_regular_file(illeggibile);
   });
-  std::vector<Percorso> nomi;
-  nomi.reserve(trovati.size());
-  for (auto& [testo, nome] : trovati) nomi.push_back(std::move(nome));
-  return nomi;
+}
+
+std::vector<Percorso> Disco::Elenca_Cartelle(const Percorso& cartella) const {
+  return Nomi_In(Cerca(cartella), [](const fs::directory_entry& voce, Vista) {
+    std::error_code illeggibile;
+    return voce.is_directory(illeggibile);
+  });
 }
 
 Testo Testo_Errore(int errore) { return Da_Utf8(std::generic_category().message(errore)); }

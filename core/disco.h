@@ -43,10 +43,13 @@ class Disco {
   int Cancella(const Percorso& percorso) const;               // a missing file is ENOENT
   int Rinomina(const Percorso& da, const Percorso& a) const;  // EEXIST when the target is there
   int Crea_Cartella(const Percorso& percorso) const;          // with every missing parent
+  int Rendi_Eseguibile(const Percorso& percorso) const;       // by those who may read it
 
   // Names (without the folder) of the files of a folder that match a pattern of '*' and '?' ignoring case,
   // sorted by name ignoring case.
   std::vector<Percorso> Elenca(const Percorso& cartella, Vista modello) const;
+  // Names of the folders in a folder, in the same order.
+  std::vector<Percorso> Elenca_Cartelle(const Percorso& cartella) const;
 };
 
 // The text that the machine has for an errno, as Windows-1252.

@@ -31,21 +31,23 @@ void Scegli(Elenco& elenco, const Testo& riga) {
   Scegli(elenco, std::move(righe), riga);
 }
 
-void Mostra_Valori(const Programma& programma, SchermoPreferenze& schermo) {
-  for (const Impostazione& impostazione : Impostazioni()) {
-    if (impostazione.gruppo == Gruppo::Nessuno) continue;
-    const Testo valore = Valore_Scritto(impostazione, programma.preferenze);
-    if (E_Flag(impostazione)) {
-      schermo.spunte[impostazione.chiave].segnata = valore != "0";
-    } else if (impostazione.scelte.empty()) {
-      schermo.campi[impostazione.chiave].testo =
-          E_Decimale(impostazione) ? Correggi_Separatore(valore, programma.Separatore_Decimale) : valore;
-    } else if (E_Intera(impostazione)) {
-      schermo.elenchi[impostazione.chiave].scelta = Intero(valore, '.');
-    } else {
-      Scegli(schermo.elenchi[impostazione.chiave], valore);
-    }
+void Mostra_Valore(const Programma& programma, SchermoPreferenze& schermo, const Impostazione& impostazione) {
+  const Testo valore = Valore_Scritto(impostazione, programma.preferenze);
+  if (E_Flag(impostazione)) {
+    schermo.spunte[impostazione.chiave].segnata = valore != "0";
+  } else if (impostazione.scelte.empty()) {
+    schermo.campi[impostazione.chiave].testo =
+        E_Decimale(impostazione) ? Correggi_Separatore(valore, programma.Separatore_Decimale) : valore;
+  } else if (E_Intera(impostazione)) {
+    schermo.elenchi[impostazione.chiave].scelta = Intero(valore, '.');
+  } else {
+    Scegli(schermo.elenchi[impostazione.chiave], valore);
   }
+}
+
+void Mostra_Valori(const Programma& programma, SchermoPreferenze& schermo) {
+  for (const Impostazione& impostazione : Impostazioni())
+    if (impostazione.gruppo != Gruppo::Nessuno) Mostra_Valore(programma, schermo, impostazione);
 }
 
 void Prepara_Controlli(SchermoPreferenze& schermo, const std::vector<Testo>& fonti) {
@@ -71,8 +73,8 @@ void Prepara_Controlli(SchermoPreferenze& schermo, const std::vector<Testo>& fon
   schermo.Default.testo = "Default";
   schermo.DimensioniDDT.testo = "Dimensioni DDT";
   schermo.Personalizza.testo = "Personalizza";
-  // Their screens belong to documents and invoices.
-  schermo.DimensioniDDT.attivo = schermo.Personalizza.attivo = false;
+  schermo.DimensioniDDT.attivo = static_cast<bool>(schermo.dimensioni_ddt);
+  schermo.Personalizza.attivo = static_cast<bool>(schermo.personalizza);
 }
 
 // A number as it was keyed, in the form of the file. What is no number gives back a rate's default, and
@@ -121,6 +123,15 @@ Preferenze Prendi_Controlli(const Programma& programma, const SchermoPreferenze&
 void Apri_Preferenze(Programma& programma, SchermoPreferenze& schermo, const std::vector<Testo>& fonti) {
   Prepara_Controlli(schermo, fonti);
   Mostra_Valori(programma, schermo);
+}
+
+void Apri_Altro_Schermo(Programma& programma, SchermoPreferenze& schermo, const std::function<void()>& apri) {
+  const Preferenze prima = programma.preferenze;
+  apri();
+  for (const Impostazione& impostazione : Impostazioni())
+    if (impostazione.gruppo != Gruppo::Nessuno &&
+        Valore_Scritto(impostazione, prima) != Valore_Scritto(impostazione, programma.preferenze))
+      Mostra_Valore(programma, schermo, impostazione);
 }
 
 void Tocca_Preferenze(SchermoPreferenze& schermo) { schermo.Esito.testo.clear(); }

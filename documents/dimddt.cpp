@@ -7,8 +7,6 @@
 
 namespace {
 
-constexpr int larghezza_massima = 210, altezza_massima = 293;  // an A4 sheet
-
 constexpr Vista larghezza = "DocSani_LarghezzaPagina", altezza = "DocSani_AltezzaPagina",
                 logo = "DocSani_Offset_Logo", aggiustamento = "DocSani_Aggiustamento",
                 altezza_dest = "DocSani_AltezzaDest", da_destra = "DocSani_dadestra",
@@ -87,7 +85,7 @@ bool Misure_Buone(DimDDT& schermo, char separatore) {
     Campo_Di(schermo, logo).testo = std::to_string(spostamento);
     buone = false;
   }
-  if (mm(larghezza) > larghezza_massima || mm(altezza) > altezza_massima) buone = false;
+  if (mm(larghezza) > Larghezza_Massima_DDT || mm(altezza) > Altezza_Massima_DDT) buone = false;
   return buone && mm(ellisse_x) >= 1 && mm(ellisse_y) >= 1;
 }
 

@@ -9,6 +9,10 @@
 #include "core/controlli.h"
 #include "core/profili.h"
 #include "core/programma.h"
+#include "documents/pagine.h"
+#include "printing/dispositivo.h"
+
+inline constexpr int Larghezza_Massima_DDT = 210, Altezza_Massima_DDT = 293;  // an A4 sheet
 
 // The screen `DimDDT`, the page of the transport and sanitary documents: sizes in millimetres, title,
 // letterhead and foot lines. Its fields are named by the keys of their settings.
@@ -46,6 +50,15 @@ void Riempi_DimDDT(const Programma& programma, DimDDT& schermo, Vista nome);
 // that is good.
 bool Conferma_DimDDT(Programma& programma, DimDDT& schermo);
 void Chiudi_DimDDT(DimDDT& schermo);
+
+// The picture of the form that the window shows: a page with one item as it would come out with what is
+// keyed. Nothing while the sheet has no size, or one beyond the limits.
+struct Schizzo_DDT {
+  Foglio_Documento foglio;
+  Pagina_Documento pagina;
+  std::optional<Ovale> bollo;
+};
+std::optional<Schizzo_DDT> Schizzo(const Programma& programma, const DimDDT& schermo);
 
 // The six letterhead lines that some firms have of their own, with the stall's number; nothing for the
 // others.

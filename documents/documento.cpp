@@ -76,7 +76,7 @@ Testo Testo_Dati(const LedgerRow& riga) {
   return dati.append("Attr.pesca=").append(Da(riga[CampoRiga::MetodoPesca], 5));
 }
 
-Destinatario Destinatario_Da(const std::array<Testo, 9>& riga) {
+Destinatario_Documento Destinatario_Da(const std::array<Testo, 9>& riga) {
   return {.Codice = riga[cliente::Codice],
           .Nome = riga[cliente::RagioneSociale1],
           .Indirizzo = riga[cliente::Via] + " - " + riga[cliente::Citta],

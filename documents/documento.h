@@ -38,7 +38,7 @@ struct Riga_Documento {
   double Peso = 0, Prezzo = 0, Colli = 0;  // kilograms, euro per kilogram, boxes; 0 when unreadable
 };
 
-struct Destinatario {
+struct Destinatario_Documento {
   Testo Codice, Nome;
   Testo Indirizzo;  // street and town
   Testo PIva;       // "p. iva " and the number
@@ -56,7 +56,7 @@ struct Documento_Cliente {
   Testo Titolo;
   Testo Bollo;        // the firm's health mark
   Testo Riga_Numero;  // "(CEE IT 940) no. 007 del 14/03/2025"
-  Destinatario destinatario;
+  Destinatario_Documento destinatario;
   std::vector<Riga_Documento> righe;
   std::array<Testo, 2> Piede;  // of a sanitary document, on its last page
   double Peso_Totale = 0, Colli_Totali = 0;

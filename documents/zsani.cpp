@@ -7,6 +7,7 @@
 #include "core/numeri.h"
 #include "lists/liste.h"
 #include "lists/ordina.h"
+#include "printing/pagina.h"
 
 namespace {
 
@@ -105,7 +106,7 @@ void Prepara_Controlli(const Programma& programma, Zsani& zsani) {
   zsani.Caption[1].testo = "Destinatario";
   zsani.Text2.testo = "1";
   zsani.Caption_Text2.testo = "Primo numero";
-  zsani.Combo2.Riempi({"1 copia", "2 copie", "3 copie"});
+  zsani.Combo2.Riempi(Voci_Copie());
   zsani.Combo2.scelta = 0;
   zsani.Check1.didascalia = "Stampa Tutti i documenti F4";
   zsani.Check4.didascalia = "Stampa DDT";
@@ -141,7 +142,14 @@ void Apri(Programma& programma, Zsani& zsani, ModoDocumenti modo, std::vector<Le
   zsani.ListaDoc = std::move(lista);
   Ordina(zsani.ListaDoc, programma.preferenze.flagSortOrder);
   Prepara_Controlli(programma, zsani);
+  MostraStampante(programma, zsani);
   Mostra_Lista(zsani, 0);
+}
+
+// A row of the list that isn't the mark of an empty day.
+bool Riga_Vera(const Tabella& tabella, int n) {
+  return n >= 1 && n <= tabella.Righe() &&
+         !Uguali(tabella.righe[static_cast<std::size_t>(n - 1)][CampoRiga::Fornitore], Riga_Vuota);
 }
 
 // ---- saving
@@ -242,27 +250,20 @@ bool Stampa_Documento(Programma& programma, Zsani& zsani, std::size_t i, const T
     programma.piattaforma.Messaggio("Nessuna voce da stampare per il cliente " + voce.Cliente);
     return true;
   }
-  if (!zsani.stampa(*documento)) return false;
+  if (!zsani.stampa(*documento, [&](const Testo& titolo) { zsani.titolo = titolo; })) return false;
   voce.Numero = ConMarchio(voce.Numero, tipo);
   return true;
 }
 
 bool Stampa_Tutti(Programma& programma, Zsani& zsani) {
-  const Testo titolo = zsani.titolo;
-  const Testo quanti = " di " + std::to_string(zsani.ListaDoc.size());
-  bool avanti = true;
-  for (std::size_t i = 0; avanti && i < zsani.ListaDoc.size(); ++i) {
-    const Testo& numero = zsani.ListaDoc[i].Numero;
-    avanti =
-        !Pulito(numero).empty() ||
-        programma.piattaforma.Domanda("Non tutti i Documenti sono numerati... OK per continuare ugualmente");
-    if (!avanti) break;
-    zsani.titolo = titolo + " - " + std::to_string(i + 1) + quanti;
-    programma.piattaforma.Ridipingi();
-    avanti = Stampa_Documento(programma, zsani, i, Testo(Pulito(numero)));
+  for (std::size_t i = 0; i < zsani.ListaDoc.size(); ++i) {
+    const Testo numero(Pulito(zsani.ListaDoc[i].Numero));
+    if (numero.empty() &&
+        !programma.piattaforma.Domanda("Non tutti i Documenti sono numerati... OK per continuare ugualmente"))
+      return false;
+    if (!Stampa_Documento(programma, zsani, i, numero)) return false;
   }
-  zsani.titolo = titolo;
-  return avanti;
+  return true;
 }
 
 // All copies that were asked for; false when the operator or the paper stopped it.
@@ -325,6 +326,22 @@ bool ApriDocumentoRiga(Programma& programma, Zsani& zsani, int n) {
   Apri(programma, zsani, ModoDocumenti::Riga, RigheDeiDocumenti(sola, programma.Separatore_Decimale),
        {{Testo(Pulito(riga[CampoRiga::Cliente])), Testo(Pulito(riga[CampoRiga::DDT]))}});
   return true;
+}
+
+bool ClienteDaStampare(Programma& programma, int n, Vista cliente) {
+  if (Riga_Vera(programma.Vet_Tabella, n) && !Pulito(cliente).empty()) return true;
+  programma.piattaforma.Messaggio("selezionare il cliente sulla lista...");
+  return false;
+}
+
+bool RigaDaStampare(Programma& programma, int n) {
+  if (Riga_Vera(programma.Vet_Tabella, n)) return true;
+  programma.piattaforma.Messaggio("Selezionare il Cliente sulla lista..(Hai salvato?)");
+  return false;
+}
+
+void MostraStampante(Programma& programma, Zsani& zsani) {
+  TitoloStampante(Dispositivo(programma), zsani.TitoloStampante);
 }
 
 void SceltaVoce(Zsani& zsani, int riga) {
@@ -463,10 +480,12 @@ void StampaDocumenti(Programma& programma, Zsani& zsani) {
     Mostra_Voce(zsani);
   }
   bool finita = false;
+  const Testo titolo = zsani.titolo;
   {
     const Puntatore_Occupato occupato(programma.piattaforma);
     finita = Stampa_Copie(programma, zsani);
   }
+  zsani.titolo = titolo;
   Mostra_Lista(zsani, zsani.MList2.scelta);
   if (finita && zsani.modo != ModoDocumenti::Tutti) Chiudi(programma, zsani);
 }

@@ -9,6 +9,7 @@
 #include "core/programma.h"
 #include "documents/documento.h"
 #include "documents/numeri.h"
+#include "documents/pagine.h"
 
 // The screen `Zsani`: the day's transport and sanitary documents, one for each customer, their numbers and
 // their printing. Numbers live in ListaDoc until they are saved into the rows.
@@ -17,8 +18,8 @@
 // doesn't number, check or sort.
 enum class ModoDocumenti { Tutti, Cliente, Riga };
 
-// Draws one document; false when the paper failed, which ends the run.
-using StampaDoc = std::function<bool(const Documento_Cliente&)>;
+// Draws one document and tells its progress; false when the paper failed, which ends the run.
+using StampaDoc = std::function<bool(const Documento_Cliente&, const Avanzamento&)>;
 
 struct Zsani {
   Testo titolo;                     // caption of the window
@@ -28,6 +29,7 @@ struct Zsani {
   Scritta Caption_Text2;
   Elenco MList2;                         // one line for each entry of ListaDoc
   Elenco Combo2;                         // copies
+  Scritta TitoloStampante;               // where the print will go
   Spunta Check1, Check4, Check6;         // all documents, DDT, prices
   Bottone Command1, Command2;            // print, close
   Bottone Command3, Command4;            // number by hand, check
@@ -52,6 +54,13 @@ void ApriDocumenti(Programma& programma, Zsani& zsani);
 void ApriDocumentoCliente(Programma& programma, Zsani& zsani, Vista cliente, Vista numero);
 bool ApriDocumentoRiga(Programma& programma, Zsani& zsani, int n);
 
+// The messages of the entry screen's two quick buttons, row n of the list being selected (0 for none): false
+// when there is no customer, or no row, to make a document for.
+bool ClienteDaStampare(Programma& programma, int n, Vista cliente);
+bool RigaDaStampare(Programma& programma, int n);
+
+// The printer in use, after it was chosen anew.
+void MostraStampante(Programma& programma, Zsani& zsani);
 // What is enabled, visible and written on the buttons now; every routine here ends with it.
 void AggiornaComandi(Zsani& zsani);
 

@@ -37,34 +37,16 @@ Stato_Comando Degli_Esclusi(const Programma& programma, const Edita& edita) {
   return {!Occupata(edita), profilo == Profilo::Lagomar || profilo == Profilo::Rovigal};
 }
 
-const std::vector<Voce_Comando>& Futuri() {
-  const Testo totale = "totale € e Kg per fornitore"_t;
-  static const std::vector<Voce_Comando> voci = {
-      {"Conti_Vendita", "Conti Ven&dita F2", "", Tasto::F2},
-      {"Prima_Nota", "&Prima Nota F6", "", Tasto::F6},
-      {"DSI", "DSI", "stampa documento sanitario per il cliente selezionato", Tasto::Altro},
-      {"DSI_Riga", "DSI 1R", "stampa documento sanitario per la riga selezionata", Tasto::Altro},
-      {"Fat", "Fat", "", Tasto::Altro},
-      {"Saldo", "Saldo", totale, Tasto::Altro},
-      {"KgCli", "KgCli", "numero immissioni e Kg per cliente", Tasto::Altro},
-      {"Cerca_Acquirente", "Cerca &Acquirente", "numero immissioni e Kg per cliente", Tasto::Altro},
-      {"Stat", "Stat", "", Tasto::Altro},
-      {"Stat2", "Stat2", "", Tasto::Altro},
-      {"Etichetta", "Etichetta", "Stampa Etichetta", Tasto::Altro},
-  };
-  return voci;
-}
-
 // The two document buttons follow their settings.
-bool FuturoVisibile(const Programma& programma, Vista nome) {
-  const Preferenze& preferenze = programma.preferenze;
-  if (nome == "DSI") return preferenze.FlagDSimmediato;
-  if (nome == "DSI_Riga") return preferenze.FlagDSimmediatoUR;
-  return true;
+template <bool Preferenze::*flag>
+Stato_Comando Della_Preferenza(const Programma& programma, const Edita& edita) {
+  return {!Occupata(edita), programma.preferenze.*flag};
 }
 
 const std::vector<Regola>& Regole() {
   static const std::vector<Regola> regole = [] {
+    const Testo per_fornitore = "totale € e Kg per fornitore"_t;
+    const Testo per_cliente = "numero immissioni e Kg per cliente";
     std::vector<Regola> tutte = {
         {{"Elimina", "&Elimina F3", "", Tasto::F3}, Del_Bottone<&Edita::Elimina>},
         {{"Modifica", "&Modifica F4", "", Tasto::F4}, Del_Bottone<&Edita::Modifica>},
@@ -91,7 +73,20 @@ const std::vector<Regola>& Regole() {
          Sempre},
         {{"Riduce_Edita", "Riduce finestra Edita", "", Tasto::Altro}, Sempre},
         {{"Esclusi", "Esclusi", "", Tasto::Altro}, Degli_Esclusi},
+        {{"Etichetta", "Etichetta", "Stampa Etichetta", Tasto::Altro}, Sempre},
         {{"Doc_Trasporto", "&Doc. Trasporto", "", Tasto::Altro}, Sempre},
+        {{"Conti_Vendita", "Conti Ven&dita F2", "", Tasto::F2}, Sempre},
+        {{"Prima_Nota", "&Prima Nota F6", "", Tasto::F6}, Sempre},
+        {{"DSI", "DSI", "stampa documento sanitario per il cliente selezionato", Tasto::Altro},
+         Della_Preferenza<&Preferenze::FlagDSimmediato>},
+        {{"DSI_Riga", "DSI 1R", "stampa documento sanitario per la riga selezionata", Tasto::Altro},
+         Della_Preferenza<&Preferenze::FlagDSimmediatoUR>},
+        {{"Fat", "Fat", "", Tasto::Altro}, Sempre},
+        {{"Saldo", "Saldo", per_fornitore, Tasto::Altro}, Sempre},
+        {{"KgCli", "KgCli", per_cliente, Tasto::Altro}, Sempre},
+        {{"Cerca_Acquirente", "Cerca &Acquirente", per_cliente, Tasto::Altro}, Sempre},
+        {{"Stat", "Stat", "", Tasto::Altro}, Sempre},
+        {{"Stat2", "Stat2", "", Tasto::Altro}, Sempre},
         {{"Escludi_Codice", "Escludi questo codice", "", Tasto::Altro}, Sempre},
         {{"Chiudi", "&Chiudi", "", Tasto::Altro}, Sempre},
     };
@@ -125,11 +120,12 @@ const std::vector<Voce_Menu>& Voci_Menu() {
         {"File", "Cancella Tutto", "Cancella_Tutto", true, Tasto::Altro},
         {"File", "Salva", "Salva", true, Tasto::Altro},
         {"File", "Vettori", "Vettori", true, Tasto::Altro},
-        {"File", "Controllo CV", "Controllo_CV", false, Tasto::Altro},
+        {"File", "Controllo CV", "Controllo_CV", true, Tasto::Altro},
+        {"File", "Stampa Schermo", "Stampa_Schermo", true, Tasto::Altro},
         {"File", "Chiudi", "Chiudi", true, Tasto::Altro},
         {"Pref.", "Preferenze Operative", "Preferenze_Operative", true, Tasto::Altro},
-        {"Pref.", "Preferenze per Doc. Sanitario e DDI", "Preferenze_Documenti", false, Tasto::Altro},
-        {"Pref.", "Preferenze Fatture Personalizzate", "Preferenze_Fatture", false, Tasto::Altro},
+        {"Pref.", "Preferenze per Doc. Sanitario e DDI", "Preferenze_Documenti", true, Tasto::Altro},
+        {"Pref.", "Preferenze Fatture Personalizzate", "Preferenze_Fatture", true, Tasto::Altro},
         {"Pref.", "Stampante", "Stampante", true, Tasto::Altro},
         {"Pref.", "Colore Lista", "Colore_Lista", true, Tasto::Altro},
         {"Pref.", "Rinnova Liste", "Rinnova_Liste", true, Tasto::Altro},
@@ -162,7 +158,20 @@ std::span<const Voce_Comando> Comandi() {
 
 std::span<const Vista> Comandi_Altrui() {
   static const std::vector<Vista> nomi = {
+      "Conti_Vendita",
+      "Prima_Nota",
       "Doc_Trasporto",
+      "Fat",
+      "DSI",
+      "DSI_Riga",
+      "Preferenze_Documenti",
+      "Preferenze_Fatture",
+      "Controllo_CV",
+      "Saldo",
+      "KgCli",
+      "Cerca_Acquirente",
+      "Stat",
+      "Stat2",
   };
   return nomi;
 }
@@ -171,12 +180,10 @@ void ChiediSchermo(Edita& edita, Vista comando) {
   if (!Occupata(edita)) edita.schermo = Testo(comando);
 }
 
-std::span<const Voce_Comando> Comandi_Futuri() { return Futuri(); }
-
 Stato_Comando StatoComando(const Programma& programma, const Edita& edita, Vista nome) {
   for (const Regola& regola : Regole())
     if (regola.voce.nome == nome) return regola.stato(programma, edita);
-  return {false, FuturoVisibile(programma, nome)};
+  return {};
 }
 
 std::span<const Voce_Menu> Menu() { return Voci_Menu(); }

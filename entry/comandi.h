@@ -21,8 +21,6 @@ std::span<const Voce_Comando> Comandi();
 std::span<const Vista> Comandi_Altrui();
 // Such a command was given: its screen opens once the event is done.
 void ChiediSchermo(Edita& edita, Vista comando);
-// Commands whose screens aren't there yet: the window shows their buttons disabled.
-std::span<const Voce_Comando> Comandi_Futuri();
 
 struct Stato_Comando {
   bool attivo = false;

@@ -55,6 +55,8 @@ void PreparaCaselle(const Programma& programma, Edita& edita) {
           casella == 6 || casella == 7 ? "usare PGSu PGGiù"_t : Testo("usare Alt Gr");
   edita.Check[12].segnata = true;
   edita.Check[12].didascalia = "#DDT automatico ";
+  edita.Check[18].didascalia = "Tutte le etichette";
+  edita.Check[18].suggerimento = "il bottone Etichetta stampa tutte le righe con un prezzo";
   edita.Check[5].segnata = programma.preferenze.Flag5 != 0;
   edita.Check[7].segnata = programma.preferenze.Flag7 != 0;
   // settings that hold both of the pair come from outside: the customer's code is then the one looked up

@@ -25,7 +25,8 @@ enum class Richiesta {
   Lotti_Predefiniti,
   Lista_Campo,  // of the field `campo_lista_aperta`
   Mappa_Mediterraneo,
-  Mappa_Mondo
+  Mappa_Mondo,
+  Nota_Accredito  // by a "-" in the price
 };
 
 struct Albero {
@@ -59,6 +60,8 @@ struct Edita {
   Albero albero;
   // The field (index of Text1) that shall get the focus, or one of the marks below; the window clears it.
   int fuoco = nessun_fuoco;
+  std::size_t posto_meno = 0;  // where the "-" that asked for the credit note's dialog was typed in the price
+  std::optional<std::size_t> cursore;  // where the cursor goes in the price; the window clears it
   static constexpr int nessun_fuoco = -1, fuoco_List1 = -2, fuoco_schermo = -3;
   Richiesta richiesta = Richiesta::Nessuna;
   Testo schermo;  // the command whose screen, of another room, shall open; the window clears it

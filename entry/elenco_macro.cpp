@@ -4,6 +4,7 @@
 #include <span>
 
 #include "lists/file_lista.h"
+#include "printing/pagina_righe.h"
 
 namespace {
 
@@ -71,6 +72,7 @@ void MostraTabella(Elenco_Macro& elenco) {
                       ? "Lista delle Specie Predefinite (massimo 99) - presenti "
                       : "Lista delle Fornitori Predefiniti - presenti ";
   elenco.titolo += std::to_string(elenco.tabella.size());
+  elenco.Stampa.attivo = !elenco.tabella.empty();
 }
 
 void Seleziona(Elenco_Macro& elenco, int riga) {
@@ -131,7 +133,6 @@ void Apri_ElencoMacro(Programma& programma, Elenco_Macro& elenco, Tipo_Macro tip
   elenco.Elimina.testo = "&Elimina";
   elenco.Rinomina.testo = "&Rinomina";
   elenco.Stampa.testo = "&Stampa";
-  elenco.Stampa.attivo = false;
   elenco.Aiuto.testo = "&Aiuto";
   elenco.Text1.suggerimento = "codice della macro da eseguire, poi Invio";
   elenco.Text2.suggerimento = "testo da cercare nella lista, poi Invio";
@@ -198,6 +199,26 @@ void RinominaMacro(Programma& programma, Elenco_Macro& elenco) {
   if (errore != 0) return Mostra_Guasti(programma, {{errore, da}});
   Leggi_ElencoMacro(programma, elenco);
   Seleziona(elenco, RigaDelCodice(elenco, nuovo));
+}
+
+void StampaMacro(Programma& programma, Elenco_Macro& elenco) {
+  const bool specie = elenco.tipo == Tipo_Macro::Specie;
+  Foglio_Di_Righe foglio;
+  foglio.documento = {programma.Data_AAAAMMGG, specie ? "Specie Predefinite" : "Fornitori Predefiniti", "",
+                      ""};
+  foglio.codice = "Macro";
+  if (specie) {
+    foglio.testa = {"Lista delle Macro delle Spece (Predefinite)"};
+  } else {
+    foglio.testa = {"Dati Predefiniti Fornitori "};
+    foglio.testa_seguito = {"Dati Predefiniti Fornitori (continua)"};
+  }
+  for (std::size_t i = 0; i < elenco.List1.Numero(); ++i) foglio.righe.push_back({elenco.List1.Riga(i)});
+  Stampa_Righe(programma, foglio, elenco.titolo);
+}
+
+void MostraStampante(Programma& programma, Elenco_Macro& elenco) {
+  TitoloStampante(Dispositivo(programma), elenco.Stampante);
 }
 
 void AiutoMacro(Programma& programma, const Elenco_Macro& elenco) {

@@ -22,7 +22,8 @@ struct Elenco_Macro {
   TabellaLista<8> tabella;
   Scritta Esito;  // what came of the last code or search
   Bottone Chiudi, Copia, Elimina, Rinomina, Stampa, Aiuto;
-  Testo cercato;  // by the last search, and the line where it ended
+  Scritta Stampante;  // where "Stampa" goes, and how the paper lies there
+  Testo cercato;      // by the last search, and the line where it ended
   int riga_trovata = -1;
 };
 
@@ -40,4 +41,7 @@ void CercaMacro(Elenco_Macro& elenco);
 void SaltaMacro(Elenco_Macro& elenco, char carattere);
 void EliminaMacro(Programma& programma, Elenco_Macro& elenco);
 void RinominaMacro(Programma& programma, Elenco_Macro& elenco);
+// The lines of the window on paper. An empty list prints nothing.
+void StampaMacro(Programma& programma, Elenco_Macro& elenco);
+void MostraStampante(Programma& programma, Elenco_Macro& elenco);
 void AiutoMacro(Programma& programma, const Elenco_Macro& elenco);

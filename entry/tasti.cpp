@@ -1,4 +1,5 @@
 #include "core/numeri.h"
+#include "core/profili.h"
 #include "entry/comandi.h"
 #include "entry/edita.h"
 #include "entry/liste_campi.h"
@@ -137,6 +138,13 @@ constexpr TastoComando tasti_schermo[] = {
     {Tasto::F9, RigaSuccessiva},    {Tasto::F11, MappaMondo}, {Tasto::PagSu, ScambiaCliente},
     {Tasto::PagGiu, ScambiaCliente}};
 
+// One firm's own key for the statistics of a period.
+bool Seconda_Statistica(const Programma& programma, int indice, const Pressione& pressione) {
+  return indice == Indice(CampoRiga::Fornitore) && pressione.tasto == Tasto::F1 && pressione.maiuscole &&
+         !pressione.ctrl && !pressione.alt &&
+         Profilo_Ditta(programma.preferenze.Codice_Commissionario) == Profilo::Lagomar;
+}
+
 bool Cifra(char c) { return c >= '0' && c <= '9'; }
 
 char Separatore(const Programma& programma, Vista resta) {
@@ -171,6 +179,10 @@ void LottoAutomatico(Programma& programma, Edita& edita) {
 bool TastoCampo(Programma& programma, Edita& edita, int indice, const Pressione& pressione) {
   if (Occupata(edita)) return true;
   if (indice == Indice(CampoRiga::Commento)) return false;
+  if (Seconda_Statistica(programma, indice, pressione)) {
+    ChiediSchermo(edita, "Stat2");
+    return true;
+  }
   if (indice == Indice(CampoRiga::Colli) && pressione.tasto == Tasto::Invio && edita.Aggiungi.attivo) {
     Aggiungi(programma, edita);
     CampoSuccessivo(edita, indice);

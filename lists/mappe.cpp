@@ -118,7 +118,7 @@ std::vector<Anello> Anelli_In_Gradi(Vista testo) {
 }
 
 // A straight line between two places in degrees bends on a cone: points in between keep it in place.
-void Aggiungi_Tratto(Linea& linea, const Proiezione& proiezione, Punto_Mappa da, Punto_Mappa a) {
+void Aggiungi_Tratto(Spezzata& linea, const Proiezione& proiezione, Punto_Mappa da, Punto_Mappa a) {
   const int tratti = std::max(1, static_cast<int>(std::ceil(std::abs(a.x - da.x))));
   for (int i = 0; i < tratti; ++i) {
     const double parte = static_cast<double>(i) / tratti;
@@ -175,9 +175,9 @@ bool Taglio(Punto_Mappa a, Punto_Mappa b) {
   return al_bordo(a) && al_bordo(b);
 }
 
-void Aggiungi_Coste(std::vector<Linea>& coste, const Anello& in_gradi, const Proiezione& proiezione,
+void Aggiungi_Coste(std::vector<Spezzata>& coste, const Anello& in_gradi, const Proiezione& proiezione,
                     double giro) {
-  Linea linea;
+  Spezzata linea;
   for (std::size_t i = 0; i < in_gradi.size(); ++i) {
     const Punto_Mappa da = in_gradi[i], a = in_gradi[(i + 1) % in_gradi.size()];
     if (Taglio(da, a)) {
@@ -323,9 +323,9 @@ int Bersaglio_In(const Mappa_Zone& mappa, Punto_Mappa punto) {
   return -1;
 }
 
-std::vector<Linea> Coste_Di(const Mappa_Zone& mappa, const Bersaglio& bersaglio) {
-  std::vector<Linea> esito;
-  for (const Linea& costa : mappa.coste) {
+std::vector<Spezzata> Coste_Di(const Mappa_Zone& mappa, const Bersaglio& bersaglio) {
+  std::vector<Spezzata> esito;
+  for (const Spezzata& costa : mappa.coste) {
     bool continua = false;
     for (const Punto_Mappa punto : costa) {
       const bool dentro = Nell_Area(bersaglio, punto);

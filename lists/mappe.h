@@ -15,8 +15,8 @@ struct Punto_Mappa {
   double x = 0, y = 0;
   bool operator==(const Punto_Mappa&) const = default;
 };
-using Anello = std::vector<Punto_Mappa>;  // a closed outline; the last point joins the first
-using Linea = std::vector<Punto_Mappa>;   // an open one
+using Anello = std::vector<Punto_Mappa>;    // a closed outline; the last point joins the first
+using Spezzata = std::vector<Punto_Mappa>;  // an open one
 
 // An area that can be picked.
 struct Bersaglio {
@@ -36,8 +36,8 @@ struct Mappa_Zone {
   Anello cornice;                           // edge of the sea, inside which everything is drawn
   Punto_Mappa alto_sinistra, basso_destra;  // the rectangle around it
   std::vector<std::vector<Anello>> terre;   // each with its holes behind it
-  std::vector<Linea> coste;                 // their outlines without the cuts at the edges of the data
-  std::vector<Linea> reticolo;              // meridians and parallels
+  std::vector<Spezzata> coste;              // their outlines without the cuts at the edges of the data
+  std::vector<Spezzata> reticolo;           // meridians and parallels
   std::vector<Bersaglio> bersagli;          // in the order of the keyboard
 };
 
@@ -60,6 +60,6 @@ int Bersaglio_Di_Zona(const Mappa_Zone& mappa, Vista zona);    // the area that 
 int Bersaglio_Accanto(const Mappa_Zone& mappa, int da, int dx, int dy);
 
 // The coast along that area's water: pieces of the map's coasts.
-std::vector<Linea> Coste_Di(const Mappa_Zone& mappa, const Bersaglio& bersaglio);
+std::vector<Spezzata> Coste_Di(const Mappa_Zone& mappa, const Bersaglio& bersaglio);
 
 bool In_Terra(const Mappa_Zone& mappa, Punto_Mappa punto);

@@ -22,10 +22,18 @@ packages_test=(
   "qpdf|checks the printed PDFs"
   "poppler-utils|reads texts, positions and fonts of the printed PDFs"
 )
+packages_queue=(
+  "cups-daemon|a print server, of which the tests start one of their own"
+  "cups-client|makes its queues"
+)
 packages_screen=(
   "xvfb|an X server without a screen"
   "xdotool|presses keys in it"
   "imagemagick|takes its pictures"
+)
+
+packages_deb=(
+  "dpkg-dev|finds the libraries that the package depends on"
 )
 
 # Names of those of the given "package|reason" lines that aren't installed.

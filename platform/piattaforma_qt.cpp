@@ -160,19 +160,26 @@ char Piattaforma_Qt::Separatore_Decimale() {
 
 Testo Piattaforma_Qt::Appunti() { return Da_QString(QApplication::clipboard()->text()); }
 
+// Sticks and other drives that the operator carries away, not the machine's own disks. A drive without a
+// label has an empty one; that of a floppy isn't read, since asking for it makes the drive turn.
 std::vector<Volume> Piattaforma_Qt::Volumi() {
   static constexpr std::array cartelle = {"/media/", "/run/media/", "/mnt/"};  // where desktops mount sticks
+  static constexpr std::array di_sistema = {"tmpfs", "ramfs", "overlay", "squashfs", "autofs"};  // no drives
   std::vector<Volume> esito;
   const auto montati = QStorageInfo::mountedVolumes();
   for (const QStorageInfo& volume : montati) {
     const QString radice = volume.rootPath();
     const bool con_lettera = radice.size() >= 2 && radice[1] == QLatin1Char(':');
+    const bool dischetto = con_lettera && QStringLiteral("abAB").contains(radice[0]);
     const bool staccabile = std::any_of(cartelle.begin(), cartelle.end(), [&](const char* cartella) {
       return radice.startsWith(QLatin1String(cartella));
     });
-    if (!volume.isReady() || (!con_lettera && !staccabile)) continue;
+    if ((!con_lettera && !staccabile) || (!dischetto && !volume.isReady())) continue;
+    if (std::find(di_sistema.begin(), di_sistema.end(), volume.fileSystemType()) != di_sistema.end())
+      continue;
     esito.push_back({Percorso(QFile::encodeName(radice).toStdString()),
-                     Da_QString(con_lettera ? radice.left(2) : radice), Da_QString(volume.displayName())});
+                     Da_QString(con_lettera ? radice.left(2) : radice),
+                     dischetto ? Testo() : Da_QString(volume.name())});
   }
   return esito;
 }

@@ -67,7 +67,12 @@ void Printer::Comincia_Pagina() {
 
 bool Printer::Apri() {
   if (aperto_) return true;
-  if (!Inizia_Documento()) return false;
+  if (mancato_ == documento) return false;
+  if (!Inizia_Documento()) {
+    mancato_ = documento;
+    return false;
+  }
+  mancato_.reset();
   pagina_ = 0;
   Comincia_Pagina();
   aperto_ = true;
@@ -95,6 +100,13 @@ void Printer::Circle(float x, float y, float raggio, Colore colore, float inizio
                 rapporto > 1 ? lungo : lungo * rapporto, inizio, fine, colore, DrawWidth});
 }
 
+void Printer::PaintPicture(const Immagine& immagine, float x, float y, float larghezza, float altezza) {
+  if (immagine.Vuota() || !Finiti({x, y, larghezza, altezza}) || larghezza <= 0 || altezza <= 0 || !Apri())
+    return;
+  Disegna(
+      Figura{In_Millimetri(x), In_Millimetri(y), In_Millimetri(larghezza), In_Millimetri(altezza), immagine});
+}
+
 void Printer::NewPage() {
   if (!Apri()) return;
   CurrentX = CurrentY = 0;
@@ -102,6 +114,7 @@ void Printer::NewPage() {
 }
 
 void Printer::EndDoc() {
+  mancato_.reset();
   if (!aperto_) return;
   aperto_ = false;
   CurrentX = CurrentY = 0;
@@ -110,6 +123,7 @@ void Printer::EndDoc() {
 
 bool Printer::Scegli(const Testo& nome, int orientamento) {
   if (aperto_ || !Prendi_Stampante(nome)) return false;
+  mancato_.reset();
   Orientation(orientamento);
   return true;
 }

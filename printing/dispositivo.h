@@ -8,6 +8,7 @@
 #include "core/disco.h"
 #include "core/piattaforma.h"
 #include "printing/documento.h"
+#include "printing/immagine.h"
 #include "printing/metrica.h"
 
 inline constexpr int Scala_Twip = 1, Scala_Millimetri = 6;  // values of ScaleMode
@@ -48,6 +49,12 @@ struct Ovale {
   int penna = 1;
 };
 
+// A picture stretched into a rectangle. Millimetres.
+struct Figura {
+  double x = 0, y = 0, larghezza = 0, altezza = 0;
+  const Immagine& immagine;
+};
+
 // The page device: a pen on a sheet. What is set stays until it is set anew, over pages and documents; a
 // routine that needs a value sets it itself. A document begins with the first Print (or Line, Circle,
 // NewPage) and ends with EndDoc; a new page or document begins with the pen at (0, 0). Positions are single
@@ -81,9 +88,10 @@ class Printer {
   // Other values, and what the device refuses, are not taken. In an open document it holds from the next page
   // on.
   void Orientation(int orientamento);
-  float ScaleWidth() const;   // printable, in the current unit
-  float ScaleHeight() const;  // printable, in the current unit
-  int Height() const;         // of the sheet, in twips
+  float ScaleWidth() const;                                      // printable, in the current unit
+  float ScaleHeight() const;                                     // printable, in the current unit
+  int Height() const;                                            // of the sheet, in twips
+  Carta Carta_In_Uso() const { return Foglio(Orientamento()); }  // the sheet of the next document
   // The name of the printer; nothing when there is none: then nothing is drawn, and the sheet measures as A4.
   virtual std::optional<Testo> DeviceName() = 0;
 
@@ -96,6 +104,7 @@ class Printer {
   // `aspetto` is height by width; the radius is that of the longer axis.
   void Circle(float x, float y, float raggio, Colore colore = Nero, float inizio = 0, float fine = 0,
               float aspetto = 1);
+  void PaintPicture(const Immagine& immagine, float x, float y, float larghezza, float altezza);
   void NewPage();
   void EndDoc();  // nothing without an open document
 
@@ -121,6 +130,7 @@ class Printer {
   virtual void Disegna(double x, double y, const Carattere_Stampa& carattere, Vista testo) = 0;
   virtual void Disegna(const Segno& segno) = 0;
   virtual void Disegna(const Ovale& ovale) = 0;
+  virtual void Disegna(const Figura& figura) = 0;
 
   // Millimetres to a unit of ScaleMode and back.
   double In_Millimetri(float misura) const;
@@ -135,5 +145,8 @@ class Printer {
   int scala_ = Scala_Twip;
   int orientamento_pagina_ = Verticale;  // of the page in work
   bool aperto_ = false;
+  // The document that couldn't begin: until EndDoc the printer isn't asked again for it, so that a printer
+  // that comes back never prints the rest of a document without its beginning.
+  std::optional<Documento> mancato_;
   int pagina_ = 0;
 };

@@ -131,3 +131,9 @@ void Registratore::Disegna(const Ovale& ovale) {
     Scrivi("arco " + posto + " da " + Mm(ovale.inizio) + " a " + Mm(ovale.fine) +
            Penna(ovale.penna, ovale.colore));
 }
+
+void Registratore::Disegna(const Figura& figura) {
+  Scrivi("immagine " + Coppia(figura.x, figura.y) + " " +
+         Coppia(figura.x + figura.larghezza, figura.y + figura.altezza) + " " +
+         std::to_string(figura.immagine.larghezza) + "x" + std::to_string(figura.immagine.altezza));
+}

@@ -11,13 +11,16 @@ struct Registro_Pagine {
 // The page device that draws nothing and writes down everything: a line of text for each drawn thing, for
 // tests and for whoever wants to compare two pages. The lines, in the order of drawing:
 //
-//   documento "20250314 Fattura 12 00345" PDF        a document begins, on that printer
-//   pagina 1 verticale 210x297                        a page begins; the sheet in millimetres
-//   p1 testo 10.00 20.50 Arial 11 grassetto: Peso Kg  page, left and top of the line, font, points, style:
-//   text p1 linea 10.00 20.00 190.00 20.00 penna 1 #000000 p1 riquadro 10.00 20.00 190.00 30.00 penna 2
-//   #000000      an outline, two opposite corners p1 pieno 10.00 20.00 190.00 30.00 penna 1 #C0C0C0         a
-//   filled rectangle p1 ellisse 146.00 8.00 11.00 3.30 penna 10 #000000        centre, the two radii p1 arco
-//   100.00 50.00 11.00 3.30 da 0.00 a 3.14 penna 1 #000000   the same from one angle to another fine
+//   documento "20250314 Fattura 12 00345" PDF         a document begins, on that printer
+//   pagina 1 verticale 210x297                         a page begins; the sheet in millimetres
+//   p1 testo 10.00 20.50 Arial 11 grassetto: Peso Kg   left and top of the line, font, points, style
+//   p1 linea 10.00 20.00 190.00 20.00 penna 1 #000000
+//   p1 riquadro 10.00 20.00 190.00 30.00 penna 2 #000000   an outline, two opposite corners
+//   p1 pieno 10.00 20.00 190.00 30.00 penna 1 #C0C0C0      a filled rectangle
+//   p1 ellisse 146.00 8.00 11.00 3.30 penna 10 #000000     centre, the two radii
+//   p1 arco 100.00 50.00 11.00 3.30 da 0.00 a 3.14 penna 1 #000000   between two angles
+//   p1 immagine 10.00 20.00 190.00 130.00 1200x700     a picture: two opposite corners, its points
+//   fine
 //
 // Millimetres from the printable area's corner, always with two decimals and a point. Sizes are in points
 // with as many decimals as they have. The style is nothing, "grassetto", "corsivo" or both. A text stands as
@@ -50,6 +53,7 @@ class Registratore : public Printer {
   void Disegna(double x, double y, const Carattere_Stampa& carattere, Vista testo) override;
   void Disegna(const Segno& segno) override;
   void Disegna(const Ovale& ovale) override;
+  void Disegna(const Figura& figura) override;
 
  private:
   void Scrivi(Vista cosa);

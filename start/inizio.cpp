@@ -98,7 +98,6 @@ void Regola_Comandi(const Programma& programma, B_Inizio& inizio) {
   inizio.Command6.attivo = conti;
   inizio.Command9.attivo = conti && std::ranges::find(con_dat, profilo) != std::end(con_dat);
   inizio.Command15.attivo = inizio.Command16.attivo = false;
-  inizio.Command7.attivo = false;  // comes with the copies to sticks
   inizio.Command6.visibile = profilo != Profilo::Lagomar;
   inizio.Command14.visibile = false;
   inizio.File1.visibile = false;
@@ -269,6 +268,12 @@ bool TastoInizio(Programma& programma, B_Inizio& inizio, const Pressione& pressi
   }
   Sfondo_Del_Modo(programma, inizio);
   return true;
+}
+
+GiornoScelto Giorno_In_Cifre(const Programma& programma, const B_Inizio& inizio) {
+  // The year as a number: whatever was typed, it names a folder of ours and no other.
+  return {Giorno_Scelto(programma, inizio), Mese_Scelto(inizio),
+          std::to_string(Leggi_Intero(programma, inizio.Text3))};
 }
 
 void GestioneListe(Programma& programma) {

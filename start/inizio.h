@@ -22,6 +22,12 @@ struct B_Inizio {
   std::array<std::int32_t, 4> numeri_mostrati{};
 };
 
+// The chosen day as it stands in names of files: two digits, two, and the year.
+struct GiornoScelto {
+  Testo giorno, mese, anno;
+};
+GiornoScelto Giorno_In_Cifre(const Programma& programma, const B_Inizio& inizio);
+
 void Carica_Inizio(Programma& programma, B_Inizio& inizio);  // screen load
 // Back from the entry screen: the numbers issued meanwhile go into the fields, so that the next opening
 // doesn't take the old ones for numbers corrected by hand.

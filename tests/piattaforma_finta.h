@@ -16,6 +16,7 @@ class Piattaforma_Finta : public Piattaforma {
   std::deque<std::optional<Testo>> testi;  // to the next input boxes
   std::vector<Testo> programmi;            // file names started
   bool programmi_partono = true;
+  std::vector<Percorso> aperti;  // files and folders shown by the desktop
   Data oggi{2025, 3, 14};
   char separatore = ',';
   Testo appunti;
@@ -62,6 +63,6 @@ class Piattaforma_Finta : public Piattaforma {
     programmi.push_back(Testo_Percorso(programma.filename()));
     return programmi_partono;
   }
-  void Apri_Con_Desktop(const Percorso&) override {}
+  void Apri_Con_Desktop(const Percorso& percorso) override { aperti.push_back(percorso); }
   void Termina() override { terminata = true; }
 };

@@ -111,10 +111,11 @@ QWidget* Rientrato(QWidget* widget) {
 
 }  // namespace
 
-PreferenzeFinestra::PreferenzeFinestra(Programma& programma, std::function<void()> larghezza_edita,
-                                       QWidget* padre)
+PreferenzeFinestra::PreferenzeFinestra(Programma& programma, Vicini_Preferenze vicini, QWidget* padre)
     : FinestraModulo(QStringLiteral("Preferenze"), padre, Qt::Window), programma_(programma) {
-  schermo_.larghezza_edita = std::move(larghezza_edita);
+  schermo_.larghezza_edita = std::move(vicini.larghezza_edita);
+  schermo_.dimensioni_ddt = std::move(vicini.dimensioni_ddt);
+  schermo_.personalizza = std::move(vicini.personalizza);
   Apri_Preferenze(programma_, schermo_, Fonti_Della_Macchina());
   setWindowTitle(In_QString(schermo_.titolo));
   setFont(Carattere(punti));
@@ -155,11 +156,17 @@ QGroupBox* PreferenzeFinestra::fa_gruppo(Gruppo gruppo, const QString& titolo) {
   for (const Impostazione* impostazione : Del_Gruppo(gruppo)) fa_controllo(griglia, *impostazione);
 
   const int fine = griglia->rowCount();
+  const auto apre = [this](const std::function<void()>& schermo) {
+    return [this, &schermo] { Apri_Altro_Schermo(programma_, schermo_, schermo); };
+  };
   if (gruppo == Gruppo::Documenti)
-    griglia->addWidget(fa_bottone(QStringLiteral("DimensioniDDT"), schermo_.DimensioniDDT, {}), fine, 0, 1,
-                       2);
+    griglia->addWidget(
+        fa_bottone(QStringLiteral("DimensioniDDT"), schermo_.DimensioniDDT, apre(schermo_.dimensioni_ddt)),
+        fine, 0, 1, 2);
   if (gruppo == Gruppo::Fatture)
-    griglia->addWidget(fa_bottone(QStringLiteral("Personalizza"), schermo_.Personalizza, {}), fine, 0, 1, 2);
+    griglia->addWidget(
+        fa_bottone(QStringLiteral("Personalizza"), schermo_.Personalizza, apre(schermo_.personalizza)), fine,
+        0, 1, 2);
   return riquadro;
 }
 

@@ -7,14 +7,19 @@ class QGridLayout;
 class QGroupBox;
 class QPushButton;
 
+// What the preferences open and call in other rooms; what is empty isn't there.
+struct Vicini_Preferenze {
+  std::function<void()> larghezza_edita;  // the open entry screen follows FlagBarra
+  std::function<void()> dimensioni_ddt;   // "Dimensioni DDT"
+  std::function<void()> personalizza;     // "Personalizza"
+};
+
 // The preferences screen `Preferenze`: every setting in sight at once, in groups by subject.
 class PreferenzeFinestra : public FinestraModulo {
   Q_OBJECT
 
  public:
-  // `larghezza_edita` lets the open entry screen follow FlagBarra; may be empty.
-  explicit PreferenzeFinestra(Programma& programma, std::function<void()> larghezza_edita = {},
-                              QWidget* padre = nullptr);
+  explicit PreferenzeFinestra(Programma& programma, Vicini_Preferenze vicini = {}, QWidget* padre = nullptr);
 
  private:
   QGroupBox* fa_gruppo(Gruppo gruppo, const QString& titolo);

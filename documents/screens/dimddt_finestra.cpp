@@ -12,7 +12,9 @@
 #include "platform/testo_qt.h"
 
 DimDDTFinestra::DimDDTFinestra(Programma& programma, QWidget* padre)
-    : FinestraModulo(QStringLiteral("DimDDT"), padre, Qt::Window), programma_(programma) {
+    : FinestraModulo(QStringLiteral("DimDDT"), padre, Qt::Window),
+      programma_(programma),
+      schizzo_(new SchizzoDDT(this)) {
   Apri_DimDDT(programma_, schermo_);
   setWindowTitle(In_QString(schermo_.titolo));
   setFont(Carattere(punti_normali));
@@ -48,6 +50,7 @@ DimDDTFinestra::DimDDTFinestra(Programma& programma, QWidget* padre)
   auto* affiancate = new QHBoxLayout;
   affiancate->setSpacing(14);
   affiancate->addLayout(sinistra);
+  affiancate->addWidget(schizzo_, 1);
   affiancate->addLayout(destra, 1);
 
   auto* tutto = new QVBoxLayout(this);
@@ -64,11 +67,11 @@ QGroupBox* DimDDTFinestra::fa_gruppo(const Gruppo_Campi& gruppo) {
   auto* griglia = new QGridLayout(riquadro);
   griglia->setVerticalSpacing(5);
   for (const Vista chiave : gruppo.campi) fa_campo(griglia, chiave, gruppo.testi);
-  auto* bottoni = new QHBoxLayout;
-  bottoni->addStretch();
+  auto* bottoni = new QVBoxLayout;
   for (const Vista nome : gruppo.predefiniti)
     bottoni->addWidget(fa_bottone(In_QString(nome), schermo_.predefiniti.find(nome)->second,
-                                  [this, nome] { Riempi_DimDDT(programma_, schermo_, nome); }));
+                                  [this, nome] { Riempi_DimDDT(programma_, schermo_, nome); }),
+                       0, Qt::AlignRight);
   griglia->addLayout(bottoni, griglia->rowCount(), 0, 1, 2);
   return riquadro;
 }
@@ -90,10 +93,10 @@ void DimDDTFinestra::fa_campo(QGridLayout* griglia, Vista chiave, bool testo) {
   }
   const int larghezza = campo->fontMetrics().averageCharWidth();
   if (testo) {
-    campo->setMinimumWidth(larghezza * 60);
+    campo->setMinimumWidth(larghezza * 58);
     griglia->addWidget(campo, riga + 1, 0, 1, 2);
   } else {
-    campo->setFixedWidth(larghezza * 16);
+    campo->setFixedWidth(larghezza * 12);
     griglia->addWidget(campo, riga, 1);
   }
 }
@@ -115,6 +118,7 @@ QPushButton* DimDDTFinestra::fa_bottone(const QString& nome, Bottone& stato, Leg
 
 void DimDDTFinestra::mostra() {
   Finestra::mostra();
+  schizzo_->mostra(Schizzo(programma_, schermo_));
   if (!schermo_.chiusa) return;
   schermo_.chiusa = false;  // asked once
   QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);

@@ -3,6 +3,7 @@
 #include <initializer_list>
 
 #include "documents/dimddt.h"
+#include "documents/screens/schizzo_finestra.h"
 #include "platform/finestra.h"
 
 class QBoxLayout;
@@ -34,4 +35,5 @@ class DimDDTFinestra : public FinestraModulo {
 
   Programma& programma_;
   DimDDT schermo_;
+  SchizzoDDT* schizzo_;
 };

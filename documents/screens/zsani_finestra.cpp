@@ -18,6 +18,7 @@
 #include "platform/aspetto.h"
 #include "platform/tasti_qt.h"
 #include "platform/testo_qt.h"
+#include "printing/screens/stampante_finestra.h"
 
 namespace {
 
@@ -27,21 +28,13 @@ QGroupBox* Riquadro_Titolato(const QString& titolo) {
   return riquadro;
 }
 
-template <class Schermata>
-void Apri_Davanti(Programma& programma, QWidget* padre) {
-  Schermata* finestra = nullptr;
-  if constexpr (std::is_same_v<Schermata, PreferenzeFinestra>)
-    finestra = new Schermata(programma, {}, padre);
-  else
-    finestra = new Schermata(programma, padre);
-  finestra->setAttribute(Qt::WA_DeleteOnClose);
-  finestra->esegui();
-}
-
 }  // namespace
 
 ZsaniFinestra::ZsaniFinestra(Programma& programma, const std::function<void(Zsani&)>& apri, QWidget* padre)
     : Finestra(QStringLiteral("Zsani"), padre, Qt::Window), programma_(programma) {
+  zsani_.stampa = [this](const Documento_Cliente& documento, const Avanzamento& avanzamento) {
+    return StampaPagine(programma_, documento, avanzamento);
+  };
   apri(zsani_);
   setFont(Carattere(punti_normali));
 
@@ -74,11 +67,17 @@ QMenuBar* ZsaniFinestra::fa_menu() {
   voce("Num_Automatica", zsani_.Num_Automatica, [this] { NumeraAutomatica(programma_, zsani_); });
   voce("Aggiorna_Num", zsani_.Aggiorna_Num, [this] { AggiornaNumeri(zsani_); });
   voce("Annulla_Num", zsani_.Annulla_Num, [this] { AnnullaNumeri(programma_, zsani_); });
-  voce("Intestazione_Dimensioni", zsani_.Intestazione_Dimensioni,
-       [this] { Apri_Davanti<DimDDTFinestra>(programma_, this); });
-  voce("Preferenze_Operative", zsani_.Preferenze_Operative,
-       [this] { Apri_Davanti<PreferenzeFinestra>(programma_, this); });
-  voce("Scelta_Stampante", zsani_.Scelta_Stampante, {});
+  const auto dimensioni = [this] { DimDDTFinestra(programma_, this).esegui(); };
+  voce("Intestazione_Dimensioni", zsani_.Intestazione_Dimensioni, dimensioni);
+  voce("Preferenze_Operative", zsani_.Preferenze_Operative, [this, dimensioni] {
+    Vicini_Preferenze vicini;
+    vicini.dimensioni_ddt = dimensioni;
+    PreferenzeFinestra(programma_, std::move(vicini), this).esegui();
+  });
+  voce("Scelta_Stampante", zsani_.Scelta_Stampante, [this] {
+    StampanteFinestra(programma_, this).esegui();
+    MostraStampante(programma_, zsani_);
+  });
   return barra;
 }
 
@@ -157,6 +156,12 @@ QGroupBox* ZsaniFinestra::fa_stampa() {
   copie->setAccessibleName(QStringLiteral("Copie"));
   legame.lega(copie, QStringLiteral("Combo2"), zsani_.Combo2);
   colonna->addWidget(copie);
+  auto* dove = new QLabel;
+  dove->setFont(Carattere(punti_normali));
+  dove->setTextFormat(Qt::PlainText);
+  dove->setWordWrap(true);
+  legame.lega(dove, QStringLiteral("TitoloStampante"), zsani_.TitoloStampante);
+  colonna->addWidget(dove);
   colonna->addWidget(fa_bottone(1, zsani_.Command1, [this] { StampaDocumenti(programma_, zsani_); }));
   return riquadro;
 }

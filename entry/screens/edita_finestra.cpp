@@ -15,10 +15,12 @@
 #include "entry/aiuto.h"
 #include "entry/comandi.h"
 #include "entry/comandi_file.h"
+#include "entry/etichette.h"
 #include "entry/liste_campi.h"
 #include "entry/ordinamenti.h"
 #include "entry/screens/elenco_macro_finestra.h"
 #include "entry/screens/lotti_finestra.h"
+#include "entry/screens/nota_acc_finestra.h"
 #include "entry/screens/semaforo.h"
 #include "lists/anagrafica_specie.h"
 #include "lists/mappe.h"
@@ -26,6 +28,7 @@
 #include "platform/aspetto.h"
 #include "platform/tasti_qt.h"
 #include "platform/testo_qt.h"
+#include "printing/screens/stampa_immagine_finestra.h"
 #include "printing/screens/stampante_finestra.h"
 
 namespace {
@@ -68,10 +71,12 @@ void EditaFinestra::prepara_azioni() {
       {QStringLiteral("Colore_Lista"), [this] { ColoriFinestra(programma_, this).esegui(); }},
       {QStringLiteral("Riduce_Edita"), [this] { riduci_edita(); }},
       {QStringLiteral("Stampante"), [this] { StampanteFinestra(programma_, this).esegui(); }},
+      {QStringLiteral("Stampa_Schermo"), [this] { Stampa_Immagine(programma_, *window(), windowTitle()); }},
       {QStringLiteral("Stampa_Liste"), [this] { Stampa_Liste(programma_, edita_.titolo); }},
       {QStringLiteral("Memorizza_Fornitore"), con_stato(MemorizzaFornitore)},
       {QStringLiteral("Memorizza_Specie"), con_stato(MemorizzaSpecie)},
       {QStringLiteral("Lotti"), con_stato(AttribuisciLotti)},
+      {QStringLiteral("Etichetta"), con_stato(Etichette)},
       {QStringLiteral("Imposta_Lotti"), richiesta(Richiesta::Lotti_Predefiniti)},
       {QStringLiteral("PrefFornitori"), richiesta(Richiesta::Elenco_Fornitori)},
       {QStringLiteral("PrefSpecie"), richiesta(Richiesta::Elenco_Specie)},
@@ -92,6 +97,12 @@ void EditaFinestra::prepara_azioni() {
 
 void EditaFinestra::apre(const QString& comando, std::function<void()> schermo) {
   schermi_[comando] = std::move(schermo);
+}
+
+// What opens it, empty where the screen isn't there.
+std::function<void()> EditaFinestra::schermo_di(const char* comando) const {
+  const auto schermo = schermi_.find(QString::fromUtf8(comando));
+  return schermo == schermi_.end() ? std::function<void()>() : schermo->second;
 }
 
 void EditaFinestra::esegui_comando(const QString& nome) {
@@ -170,6 +181,11 @@ bool EditaFinestra::carattere(int indice, QKeyEvent& evento) {
   QString resta = campo->text();
   if (campo->hasSelectedText()) resta.remove(campo->selectionStart(), campo->selectedText().size());
   const char prima = Da_QString(testo)[0];
+  bool chiede_nota = false;
+  legame.esegui([&] {
+    chiede_nota = ChiediNotaAcc(edita_, indice, prima, static_cast<std::size_t>(campo->cursorPosition()));
+  });
+  if (chiede_nota) return true;
   const char dopo = FiltraCarattere(programma_, edita_, indice, Da_QString(resta), prima);
   if (dopo == 0) return true;
   if (dopo == prima) return false;
@@ -349,6 +365,9 @@ void EditaFinestra::sposta_fuoco(const QWidget* prima) {
     riprendi_fuoco();
   else if (QApplication::focusWidget() != prima && indice_di(prima) >= 0)
     setFocus(Qt::OtherFocusReason);  // the field went away under the cursor
+  if (const auto cursore = std::exchange(edita_.cursore, {}))
+    campi_[static_cast<std::size_t>(Indice(CampoRiga::Prezzo))]->setCursorPosition(
+        static_cast<int>(*cursore));
 }
 
 void EditaFinestra::fuoco_a(int indice, const QWidget* prima) {
@@ -372,7 +391,14 @@ void EditaFinestra::apri_preferenze() {
     PreferenzeCambiate(programma_, edita_);
     mostra();
   };
-  PreferenzeFinestra(programma_, larghezza, this).esegui();
+  PreferenzeFinestra(programma_,
+                     {larghezza, schermo_di("Preferenze_Documenti"), schermo_di("Preferenze_Fatture")}, this)
+      .esegui();
+}
+
+void EditaFinestra::apri_nota_acc() {
+  NotaAccFinestra(programma_, edita_, this).esegui();
+  mostra();
 }
 
 // A window that the logic, a button or a menu asked for, once the event that asked is done.
@@ -402,6 +428,8 @@ void EditaFinestra::apri_richiesta() {
       return apri_mappa(nomi_mappa::Mediterraneo);
     case Richiesta::Mappa_Mondo:
       return apri_mappa(nomi_mappa::Mondo);
+    case Richiesta::Nota_Accredito:
+      return apri_nota_acc();
   }
 }
 

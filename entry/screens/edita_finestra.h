@@ -84,6 +84,8 @@ class EditaFinestra : public Finestra {
   void mostra_comandi();
   void esegui_comando(const QString& nome);
   void apri_preferenze();
+  void apri_nota_acc();
+  std::function<void()> schermo_di(const char* comando) const;
   void apri_richiesta();
   void riduci_edita();
 

@@ -286,16 +286,15 @@ QWidget* EditaFinestra::fa_comandi() {
     prima->addWidget(bottone, nome == "Aggiungi" ? 2 : 0);
   }
 
-  for (const auto tavola : {Comandi(), Comandi_Futuri()})
-    for (const Voce_Comando& voce : tavola) {
-      const QString nome = In_QString(voce.nome);
-      const bool principale = std::ranges::find(principali, voce.nome) != principali.end();
-      if (principale || comandi_.contains(nome) || nome.startsWith(QLatin1String("Bottone"))) continue;
-      const bool lavoro = std::ranges::find(del_giorno, voce.nome) != del_giorno.end();
-      auto* bottone = fa_bottone(nome, In_QString(voce.didascalia), In_QString(voce.suggerimento));
-      Con_Carattere(bottone, 0.9);
-      (lavoro ? lavori : strumenti)->addWidget(bottone, 1);
-    }
+  for (const Voce_Comando& voce : Comandi()) {
+    const QString nome = In_QString(voce.nome);
+    const bool principale = std::ranges::find(principali, voce.nome) != principali.end();
+    if (principale || comandi_.contains(nome) || nome.startsWith(QLatin1String("Bottone"))) continue;
+    const bool lavoro = std::ranges::find(del_giorno, voce.nome) != del_giorno.end();
+    auto* bottone = fa_bottone(nome, In_QString(voce.didascalia), In_QString(voce.suggerimento));
+    Con_Carattere(bottone, 0.9);
+    (lavoro ? lavori : strumenti)->addWidget(bottone, 1);
+  }
   piegabili_.push_back(riquadro);
   return riquadro;
 }

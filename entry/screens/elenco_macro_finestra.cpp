@@ -50,6 +50,13 @@ ElencoMacroFinestra::ElencoMacroFinestra(Programma& programma, Edita& edita, Tip
   esito->setFont(Carattere(punti_normali, true));
   legame.lega(esito, QStringLiteral("Esito"), elenco_.Esito);
 
+  auto* stampante = new QLabel;
+  stampante->setTextFormat(Qt::PlainText);
+  stampante->setFont(Carattere(punti_normali));
+  stampante->setAlignment(Qt::AlignRight);
+  MostraStampante(programma_, elenco_);
+  legame.lega(stampante, QStringLiteral("Stampante"), elenco_.Stampante);
+
   lista_->setFont(Carattere_Fisso(programma_.preferenze.DimFontListe));
   lista_->setUniformItemSizes(true);
   lista_->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -74,6 +81,7 @@ ElencoMacroFinestra::ElencoMacroFinestra(Programma& programma, Edita& edita, Tip
   tutto->setMenuBar(fa_menu());
   tutto->addLayout(sopra);
   tutto->addWidget(lista_, 1);
+  tutto->addWidget(stampante);
 
   const QFontMetrics misure = lista_->fontMetrics();
   const int colonne = tipo == Tipo_Macro::Specie ? 114 : 132;
@@ -108,7 +116,7 @@ QMenuBar* ElencoMacroFinestra::fa_menu() {
   });
   voce(QStringLiteral("Elimina"), elenco_.Elimina, [this] { EliminaMacro(programma_, elenco_); });
   voce(QStringLiteral("Rinomina"), elenco_.Rinomina, [this] { RinominaMacro(programma_, elenco_); });
-  voce(QStringLiteral("Stampa"), elenco_.Stampa, {});
+  voce(QStringLiteral("Stampa"), elenco_.Stampa, [this] { StampaMacro(programma_, elenco_); });
   voce(QStringLiteral("Aiuto"), elenco_.Aiuto, [this] { AiutoMacro(programma_, elenco_); });
   return barra;
 }

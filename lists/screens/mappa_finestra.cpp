@@ -9,8 +9,9 @@
 #include "lists/screens/tela_mappa.h"
 #include "platform/aspetto.h"
 #include "platform/testo_qt.h"
+#include "printing/screens/stampa_immagine_finestra.h"
 
-MappaFinestra::MappaFinestra(const QString& nome, const Programma& programma, const Testo& zona_attuale,
+MappaFinestra::MappaFinestra(const QString& nome, Programma& programma, const Testo& zona_attuale,
                              Scelta scelta, QWidget* padre)
     : Finestra(nome, padre, Qt::Window),
       programma_(programma),
@@ -42,9 +43,19 @@ MappaFinestra::MappaFinestra(const QString& nome, const Programma& programma, co
   chiudi->setAutoDefault(true);  // Enter presses it
   connect(chiudi, &QPushButton::clicked, this, &QWidget::close);
 
+  auto* stampa = new QPushButton(QStringLiteral("S&tampa"));
+  stampa->setObjectName(QStringLiteral("Stampa"));
+  stampa->setAccessibleName(Senza_Scorciatoia(stampa->text()));
+  stampa->setFont(chiudi->font());
+  stampa->setMinimumSize(chiudi->minimumSize());
+  stampa->setAutoDefault(true);
+  connect(stampa, &QPushButton::clicked, this,
+          [this] { Stampa_Immagine(programma_, *tela_, windowTitle()); });
+
   auto* sotto = new QHBoxLayout;
   sotto->setSpacing(14);
   sotto->addWidget(spiegazione_, 1);
+  sotto->addWidget(stampa);
   sotto->addWidget(chiudi);
   auto* tutto = new QVBoxLayout(this);
   tutto->setContentsMargins(12, 12, 12, 12);
@@ -91,7 +102,7 @@ void MappaFinestra::keyPressEvent(QKeyEvent* evento) {
     Finestra::keyPressEvent(evento);
 }
 
-void Apri_Mappa(const QString& nome, const Programma& programma, const Testo& zona_attuale,
+void Apri_Mappa(const QString& nome, Programma& programma, const Testo& zona_attuale,
                 MappaFinestra::Scelta scelta, QWidget* padre) {
   auto* finestra = new MappaFinestra(nome, programma, zona_attuale, std::move(scelta), padre);
   finestra->setWindowModality(Qt::WindowModal);

@@ -18,7 +18,7 @@ class MappaFinestra : public Finestra {
   using Scelta = std::function<void(const Testo& zona)>;
 
   // `zona_attuale`: the row's ZonaP, whose area is marked.
-  MappaFinestra(const QString& nome, const Programma& programma, const Testo& zona_attuale, Scelta scelta,
+  MappaFinestra(const QString& nome, Programma& programma, const Testo& zona_attuale, Scelta scelta,
                 QWidget* padre = nullptr);
   ~MappaFinestra() override;
   MappaFinestra(const MappaFinestra&) = delete;
@@ -31,7 +31,7 @@ class MappaFinestra : public Finestra {
   void scegli(int bersaglio);
   void spiega(int bersaglio);
 
-  const Programma& programma_;
+  Programma& programma_;
   Testo zona_attuale_;
   Scelta scelta_;
   Mappa_Zone mappa_;
@@ -41,5 +41,5 @@ class MappaFinestra : public Finestra {
 
 // Opens the map of that name in front of `padre` and returns at once; `scelta` is called when an area has
 // been picked, after the map has closed.
-void Apri_Mappa(const QString& nome, const Programma& programma, const Testo& zona_attuale,
+void Apri_Mappa(const QString& nome, Programma& programma, const Testo& zona_attuale,
                 MappaFinestra::Scelta scelta, QWidget* padre);

@@ -57,7 +57,7 @@ const Colori_Mappa& Colori_Di(const QWidget* widget) {
   return widget->palette().color(QPalette::Window).lightness() < 128 ? di_notte : di_giorno;
 }
 
-QPainterPath Tracciato(const Linea& linea, bool chiudi) {
+QPainterPath Tracciato(const Spezzata& linea, bool chiudi) {
   QPainterPath tracciato;
   for (std::size_t i = 0; i < linea.size(); ++i)
     i == 0 ? tracciato.moveTo(linea[i].x, linea[i].y) : tracciato.lineTo(linea[i].x, linea[i].y);
@@ -145,8 +145,8 @@ TelaMappa::TelaMappa(const Mappa_Zone& mappa, int attuale, QWidget* padre)
   setMouseTracking(true);
   for (const auto& terra : mappa.terre)
     for (const Anello& anello : terra) terre_.addPath(Tracciato(anello, true));
-  for (const Linea& costa : mappa.coste) coste_.addPath(Tracciato(costa, false));
-  for (const Linea& linea : mappa.reticolo) reticolo_.addPath(Tracciato(linea, false));
+  for (const Spezzata& costa : mappa.coste) coste_.addPath(Tracciato(costa, false));
+  for (const Spezzata& linea : mappa.reticolo) reticolo_.addPath(Tracciato(linea, false));
   for (const Bersaglio& bersaglio : mappa.bersagli) {
     QPainterPath& area = aree_.emplace_back();
     for (const Anello& confine : bersaglio.confini) area.addPath(Tracciato(confine, true));
@@ -323,7 +323,7 @@ void TelaMappa::dipingi_guardato() {
   pittore.setBrush(colori.velo);
   pittore.drawPath(aree_[quale]);
   QPolygonF tratto;
-  for (const Linea& costa : Coste_Di(mappa_, mappa_.bersagli[quale])) {
+  for (const Spezzata& costa : Coste_Di(mappa_, mappa_.bersagli[quale])) {
     tratto.clear();
     for (const Punto_Mappa punto : costa) tratto << QPointF(punto.x, punto.y);
     pittore.drawPolyline(tratto);

@@ -50,6 +50,10 @@ bool Si_Vede(char c) {
          std::find(std::begin(indefiniti), std::end(indefiniti), byte) == std::end(indefiniti);
 }
 
+Testo Non_Scritto(const Percorso& cartella, int errore) {
+  return "non è stato scritto nella cartella\n"_t + Testo_Percorso(cartella) + "\n" + Testo_Errore(errore);
+}
+
 QPageLayout::Orientation In_Qt(int orientamento) {
   return orientamento == Orizzontale ? QPageLayout::Landscape : QPageLayout::Portrait;
 }
@@ -89,15 +93,21 @@ QStringList Stampante_Qt::Stampanti_Di_Sistema() const {
 std::unique_ptr<QPrinter> Stampante_Qt::Stampante_Di_Sistema(const QString& nome) const {
   const QPrinterInfo info = QPrinterInfo::printerInfo(nome);
   if (info.isNull()) return nullptr;
-  return std::make_unique<QPrinter>(info, QPrinter::HighResolution);
+  auto stampante = std::make_unique<QPrinter>(info, QPrinter::HighResolution);
+  if (info.defaultPageSize().isValid()) stampante->setPageSize(info.defaultPageSize());
+  return stampante;
 }
 
 std::optional<Stampante_Qt::Scelta> Stampante_Qt::Trova(const QString& nome) const {
   const auto stampante = Stampante_Di_Sistema(nome);
   if (!stampante) return std::nullopt;
-  const QPageLayout pagina = stampante->pageLayout();
+  QPageLayout pagina = stampante->pageLayout();
+  pagina.setUnits(QPageLayout::Millimeter);
   const bool sdraiata = pagina.orientation() == QPageLayout::Landscape;
-  return Scelta{Da_QString(nome), sdraiata ? Orizzontale : Verticale, pagina};
+  // The least margins are those of the paper; the present ones may still be those of another.
+  const QMarginsF minimi = pagina.minimumMargins();
+  return Scelta{Da_QString(nome), sdraiata ? Orizzontale : Verticale, pagina.pageSize(),
+                minimi.isNull() ? pagina.margins() : minimi};
 }
 
 const Stampante_Qt::Scelta& Stampante_Qt::In_Uso() const {
@@ -105,7 +115,7 @@ const Stampante_Qt::Scelta& Stampante_Qt::In_Uso() const {
   QStringList nomi = Stampanti_Di_Sistema();
   nomi.removeAll(In_QString(Stampante_PDF));
   if (!nomi.isEmpty()) scelta_ = Trova(nomi.front());
-  if (!scelta_) scelta_ = Scelta{Testo(Stampante_PDF), Verticale, {}};
+  if (!scelta_) scelta_ = Scelta{Testo(Stampante_PDF), Verticale, {}, {}};
   return *scelta_;
 }
 
@@ -127,9 +137,9 @@ std::vector<Testo> Stampante_Qt::Stampanti() {
 }
 
 bool Stampante_Qt::Prendi_Stampante(const Testo& nome) {
-  avvisato_ = false;
+  avvisato_.reset();
   if (nome == Stampante_PDF) {
-    scelta_ = Scelta{nome, Orientamento(), {}};
+    scelta_ = Scelta{nome, Orientamento(), {}, {}};
     return true;
   }
   auto trovata = Trova(In_QString(nome));
@@ -145,55 +155,71 @@ void Stampante_Qt::Orienta(int orientamento) {
   scelta_->orientamento = orientamento;
 }
 
-QPageLayout Stampante_Qt::Pagina(int orientamento) const {
-  const Scelta& scelta = In_Uso();
-  QPageLayout pagina =
-      scelta.nome == Stampante_PDF
-          ? QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(), QPageLayout::Millimeter)
-          : scelta.pagina;
-  pagina.setUnits(QPageLayout::Millimeter);
-  pagina.setOrientation(In_Qt(orientamento));
-  return pagina;
+// A sheet lies with its foot at the left.
+QMarginsF Stampante_Qt::Bordi(int orientamento) const {
+  const QMarginsF& bordi = In_Uso().bordi;
+  if (orientamento == Verticale) return bordi;
+  return {bordi.bottom(), bordi.left(), bordi.top(), bordi.right()};
 }
 
 Carta Stampante_Qt::Foglio(int orientamento) const {
   if (In_Uso().nome == Stampante_PDF) return Foglio_A4(orientamento);
-  const QPageLayout pagina = Pagina(orientamento);
-  const QRectF foglio = pagina.fullRect(), stampabile = pagina.paintRect();
+  const QSizeF in_piedi = In_Uso().foglio.size(QPageSize::Millimeter);
+  const QSizeF foglio = orientamento == Verticale ? in_piedi : in_piedi.transposed();
+  const QSizeF stampabile = foglio.shrunkBy(Bordi(orientamento));
   if (stampabile.isEmpty()) return Foglio_A4(orientamento);
   return {foglio.width(), foglio.height(), stampabile.width(), stampabile.height()};
 }
 
-bool Stampante_Qt::Inizia_Documento() {
-  if (!DeviceName()) return false;
+// Null, and told, where there is no printer.
+std::unique_ptr<Stampante_Qt::Lavoro> Stampante_Qt::Nuovo_Lavoro(const QString& titolo) {
   auto lavoro = std::make_unique<Lavoro>();
   lavoro->documento = documento;
   lavoro->pdf = In_Uso().nome == Stampante_PDF;
-  const QString titolo = In_QString(Titolo_Stampa(documento));
   if (lavoro->pdf) {
+    const int errore = disco.Esiste_Cartella(cartella_stampe_) ? 0 : disco.Crea_Cartella(cartella_stampe_);
+    if (errore != 0) {
+      Perso(documento, Non_Scritto(cartella_stampe_, errore));
+      return nullptr;
+    }
     lavoro->contenuto.open(QIODevice::WriteOnly);
     auto carta = std::make_unique<QPdfWriter>(&lavoro->contenuto);
     carta->setResolution(punti_per_pollice);
+    carta->setPageMargins(QMarginsF());
     carta->setTitle(titolo);
     carta->setCreator(QStringLiteral("Velmara"));
     lavoro->carta = std::move(carta);
-  } else {
-    auto carta = Stampante_Di_Sistema(In_QString(In_Uso().nome));
-    if (!carta || !carta->isValid()) return false;
-    carta->setDocName(titolo);
-    carta->setCreator(QStringLiteral("Velmara"));
-    lavoro->carta = std::move(carta);
+    return lavoro;
   }
-  lavoro_ = std::move(lavoro);
-  return true;
+  auto carta = Stampante_Di_Sistema(In_QString(In_Uso().nome));
+  if (!carta || !carta->isValid()) {
+    Perso(documento, "non è stato stampato. La stampante\n"_t + In_Uso().nome +
+                         "\nnon risponde. Se ne sceglie un'altra dal menu \"Stampante\".");
+    return nullptr;
+  }
+  carta->setDocName(titolo);
+  carta->setCreator(QStringLiteral("Velmara"));
+  carta->setFullPage(true);  // the origin is the sheet's corner: the borders are counted here
+  lavoro->carta = std::move(carta);
+  return lavoro;
+}
+
+bool Stampante_Qt::Inizia_Documento() {
+  lavoro_ = Nuovo_Lavoro(In_QString(Titolo_Stampa(documento)));
+  return lavoro_ != nullptr;
 }
 
 void Stampante_Qt::Inizia_Pagina(int pagina, int orientamento) {
-  lavoro_->carta->setPageLayout(Pagina(orientamento));
+  Lavoro& lavoro = *lavoro_;
+  lavoro.carta->setPageSize(lavoro.pdf ? QPageSize(QPageSize::A4) : In_Uso().foglio);
+  lavoro.carta->setPageOrientation(In_Qt(orientamento));
   if (pagina == 1)
-    lavoro_->pennello.begin(lavoro_->carta.get());
+    lavoro.pennello.begin(lavoro.carta.get());
   else
-    lavoro_->carta->newPage();
+    lavoro.carta->newPage();
+  const QMarginsF bordi = lavoro.pdf ? QMarginsF() : Bordi(orientamento);
+  lavoro.pennello.resetTransform();
+  lavoro.pennello.translate(lavoro.punti(bordi.left()), lavoro.punti(bordi.top()));
 }
 
 void Stampante_Qt::Finisci_Documento() {
@@ -208,19 +234,18 @@ void Stampante_Qt::Consegna_PDF() {
   const Percorso file = File_Stampa(disco, cartella_stampe_, lavoro_->documento);
   const int errore = disco.Sostituisci(file, Vista(byte.constData(), static_cast<std::size_t>(byte.size())));
   if (errore != 0) {
-    Perso(errore);
+    Perso(lavoro_->documento, Non_Scritto(cartella_stampe_, errore));
     return;
   }
-  avvisato_ = false;
+  avvisato_.reset();
   ultimo_pdf_ = file;
   if (Apri_Alla_Fine && mostra) mostra(file);
 }
 
-void Stampante_Qt::Perso(int errore) {
-  if (avvisato_ || !avviso) return;
-  avvisato_ = true;
-  avviso("Il documento\n" + Titolo_Stampa(lavoro_->documento) + "\nnon è stato scritto nella cartella\n"_t +
-         Testo_Percorso(cartella_stampe_) + "\n" + Testo_Errore(errore));
+void Stampante_Qt::Perso(const Documento& documento_perso, const Testo& perche) {
+  if (!avviso || (avvisato_ && *avvisato_ != documento_perso)) return;
+  avvisato_ = documento_perso;
+  avviso("Il documento\n" + Titolo_Stampa(documento_perso) + "\n" + perche);
 }
 
 const QRawFont& Stampante_Qt::Carattere(const Carattere_Stampa& carattere) {
@@ -306,4 +331,16 @@ void Stampante_Qt::Disegna(const Ovale& ovale) {
   const double arco = std::fmod(std::fmod(ovale.fine - ovale.inizio, giro) + giro, giro);
   pennello.drawArc(intorno, static_cast<int>(std::lround(ovale.inizio * sedicesimi_di_grado)),
                    static_cast<int>(std::lround(arco * sedicesimi_di_grado)));
+}
+
+void Stampante_Qt::Disegna(const Figura& figura) {
+  const Immagine& immagine = figura.immagine;
+  QImage punti(immagine.larghezza, immagine.altezza, QImage::Format_RGB32);
+  std::size_t i = 0;
+  for (int y = 0; y < immagine.altezza; ++y)
+    for (int x = 0; x < immagine.larghezza; ++x) punti.setPixel(x, y, 0xFF000000U | immagine.punti[i++]);
+  const QRectF posto(lavoro_->punti(figura.x), lavoro_->punti(figura.y), lavoro_->punti(figura.larghezza),
+                     lavoro_->punti(figura.altezza));
+  lavoro_->pennello.setRenderHint(QPainter::SmoothPixmapTransform);
+  lavoro_->pennello.drawImage(posto, punti);
 }

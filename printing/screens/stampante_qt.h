@@ -5,7 +5,8 @@
 #include <memory>
 #include <tuple>
 
-#include <QPageLayout>
+#include <QMarginsF>
+#include <QPageSize>
 #include <QRawFont>
 #include <QStringList>
 
@@ -25,7 +26,8 @@ class Stampante_Qt : public Printer {
 
   Disco disco;
   std::function<void(const Percorso&)> mostra;  // shows a finished PDF; called while Apri_Alla_Fine is set
-  // Tells the operator that a document was lost; once until one comes out again, since a run prints many.
+  // Tells the operator that a document was lost. A run prints many: then the first one only, until one comes
+  // out again or the same one is tried again.
   std::function<void(const Testo&)> avviso;
 
   std::optional<Testo> DeviceName() override;
@@ -48,22 +50,27 @@ class Stampante_Qt : public Printer {
   void Disegna(double x, double y, const Carattere_Stampa& carattere, Vista testo) override;
   void Disegna(const Segno& segno) override;
   void Disegna(const Ovale& ovale) override;
+  void Disegna(const Figura& figura) override;
 
  private:
   struct Lavoro;
   struct Scelta {  // the printer in use
     Testo nome;
     int orientamento = Verticale;
-    QPageLayout pagina;  // of a system printer
+    // Of a system printer, in millimetres: its paper and what its driver keeps of it, as the sheet stands
+    // upright.
+    QPageSize foglio;
+    QMarginsF bordi;
   };
   using Chiave = std::tuple<Testo, bool, bool>;  // font name, bold, italic
 
   const Scelta& In_Uso() const;
   std::optional<Scelta> Trova(const QString& nome) const;
-  QPageLayout Pagina(int orientamento) const;
+  QMarginsF Bordi(int orientamento) const;  // as the sheet lies
   const QRawFont& Carattere(const Carattere_Stampa& carattere);
+  std::unique_ptr<Lavoro> Nuovo_Lavoro(const QString& titolo);
   void Consegna_PDF();
-  void Perso(int errore);
+  void Perso(const Documento& documento_perso, const Testo& perche);
 
   Percorso cartella_stampe_;
   // Asked of the system at the first need: a print server may let one wait.
@@ -72,5 +79,5 @@ class Stampante_Qt : public Printer {
   std::map<Chiave, QRawFont> caratteri_;
   std::map<Chiave, Metrica> misure_;
   Percorso ultimo_pdf_;
-  bool avvisato_ = false;
+  std::optional<Documento> avvisato_;  // the lost document that was told
 };

@@ -41,9 +41,11 @@ void Cornice::aggiorna_titolo() {
   setWindowTitle(QStringLiteral("Prima Nota - ") + con_titolo->windowTitle());
 }
 
+bool Cornice::grande() const { return height() > screen()->availableGeometry().height() / 2; }
+
 void Cornice::riduci() {
   const QRect schermo = screen()->availableGeometry();
-  if (height() > schermo.height() / 2) {
+  if (grande()) {
     massima_ = isMaximized();
     misura_ = massima_ ? normalGeometry() : geometry();
     setWindowState(Qt::WindowNoState);

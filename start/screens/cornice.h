@@ -17,7 +17,8 @@ class Cornice : public QMainWindow {
   void aggiungi(QWidget* pagina, QWidget* con_titolo);
   void vai(QWidget* pagina);
   QWidget* pagina() const;
-  void riduci();  // F12: a small window in the corner, or back to the working size
+  bool grande() const;  // more than half the screen high
+  void riduci();        // F12: a small window in the corner, or back to the working size
 
   std::function<void()> chiusura;  // what the window manager's X does
 

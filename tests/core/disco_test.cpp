@@ -329,6 +329,14 @@ TEST_F(Disco_Prova, CreaCartella) {
   EXPECT_THAT(cartella.Nomi(), ElementsAre("2025_fat", "file"));
 }
 
+TEST_F(Disco_Prova, ElencaLeCartelle) {
+  cartella.Metti("file.txt", "");
+  for (const char* nome : {"b", "A", "c/dentro"}) std::filesystem::create_directories(cartella / nome);
+  EXPECT_THAT(disco.Elenca_Cartelle(cartella.percorso), ElementsAre("A", "b", "c"));
+  EXPECT_THAT(disco.Elenca_Cartelle(cartella / "c"), ElementsAre("dentro"));
+  EXPECT_THAT(disco.Elenca_Cartelle(cartella / "manca"), IsEmpty());
+}
+
 TEST_F(Disco_Prova, ElencaPerModello) {
   for (const char* nome : {"20250314.txt", "20250101.TXT", "20250314.dat", "a.txt~", ".velmara-1-0~",
                            "00012_FAT1.txt", "0001_FAT1.txt", "00003_fat.TXT", "è.txt"})

@@ -316,6 +316,22 @@ TEST(SchermoPreferenze, Default_rimette_solo_la_fonte) {
   EXPECT_EQ(s.Campo("DASU3"), "9");
 }
 
+// DimDDT stores the health mark too: an old text kept here would go back into the file with "&Applica".
+TEST(SchermoPreferenze, quanto_un_altro_schermo_ha_salvato_si_vede) {
+  Schermo_Aperto s("StringaCEE=CEE IT 1\r\n");
+  s.schermo.dimensioni_ddt = [&] { s.programma.preferenze.StringaCEE = "CEE IT 2"; };
+  Apri_Preferenze(s.programma, s.schermo, {"Arial"});
+  EXPECT_TRUE(s.schermo.DimensioniDDT.attivo);
+  EXPECT_FALSE(s.schermo.Personalizza.attivo);
+  s.Campo("PrimaAliquota") = "11";
+  Apri_Altro_Schermo(s.programma, s.schermo, s.schermo.dimensioni_ddt);
+  EXPECT_EQ(s.Campo("StringaCEE"), "CEE IT 2");
+  EXPECT_EQ(s.Campo("PrimaAliquota"), "11") << "what was keyed here stays";
+  EXPECT_TRUE(Applica_Preferenze(s.programma, s.schermo));
+  EXPECT_EQ(s.programma.preferenze.StringaCEE, "CEE IT 2");
+  EXPECT_EQ(s.programma.preferenze.Aliquota1, 11);
+}
+
 TEST(SchermoColori, mostra_sceglie_e_salva) {
   Schermo_Aperto s("ColoreTesto=3\r\nColore1=10\r\n");
   SchermoColori colori;

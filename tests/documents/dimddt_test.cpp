@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "printing/pagina.h"
 #include "tests/documents/documenti_di_prova.h"
 
 namespace {
@@ -173,6 +174,49 @@ TEST_F(DimDDT_Test, IntestazioneDelleDitteConLaPropria) {
     EXPECT_EQ((*this)["DS_intesta6"], "CEE IT 940");
   }
   EXPECT_FALSE(IntestazioneProfilo(programma, Profilo::Lagomar));
+}
+
+// ---- the picture of the form
+
+TEST_F(DimDDT_Test, LoSchizzoSegueQuantoSiScrive) {
+  (*this)["DocSani_LarghezzaPagina"] = "210";
+  (*this)["DocSani_AltezzaDest"] = "7";
+  (*this)["DS_intesta2"] = "Posteggio 07";
+  const auto schizzo = Schizzo(programma, schermo);
+  ASSERT_TRUE(schizzo);
+  EXPECT_EQ(schizzo->foglio.larghezza, 210);
+  const auto dove = [&](Vista testo) {
+    for (const Scritta_Pagina& scritta : schizzo->pagina.testata)
+      if (scritta.testo == testo) return scritta.y;
+    return -100.0F;
+  };
+  EXPECT_EQ(dove("Posteggio 07"), 3);
+  EXPECT_EQ(dove("Destinatario:"), 51);
+  EXPECT_EQ(dove("(CEE IT 940) no. 001 del 14/03/2025"), 33);
+  EXPECT_EQ(programma.preferenze.DocSani_LarghezzaPagina, 154) << "nothing is stored";
+}
+
+TEST_F(DimDDT_Test, SenzaUnFoglioNienteSchizzo) {
+  for (const Vista misura : {"0", "", "-5", "294", "99999"}) {
+    (*this)["DocSani_AltezzaPagina"] = misura;
+    EXPECT_FALSE(Schizzo(programma, schermo)) << misura;
+  }
+}
+
+// The stamp of the picture is where the print puts it.
+TEST_F(DimDDT_Test, IlBolloDelloSchizzoEQuelloStampato) {
+  const auto schizzo = Schizzo(programma, schermo);
+  ASSERT_TRUE(schizzo && schizzo->bollo);
+  const Preferenze& preferenze = programma.preferenze;
+  printer.ScaleMode(Scala_Millimetri);
+  auto x = static_cast<float>(preferenze.ellisse_centrox);
+  StampaEllisse(programma, x, static_cast<float>(preferenze.ellisse_centroy));
+  const Ovale& bollo = *schizzo->bollo;
+  const auto mm = [](double valore) { return Formato(valore, "#0.00", '.'); };
+  EXPECT_THAT(registro.righe, testing::Contains(HasSubstr("ellisse " + mm(bollo.x) + " " + mm(bollo.y) + " " +
+                                                          mm(bollo.raggio_x) + " " + mm(bollo.raggio_y))));
+  programma.preferenze.FlagEllisse = false;
+  EXPECT_FALSE(Schizzo(programma, schermo)->bollo);
 }
 
 }  // namespace

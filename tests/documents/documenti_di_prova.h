@@ -6,15 +6,19 @@
 #include "core/numeri.h"
 #include "documents/zsani.h"
 #include "lists/liste.h"
+#include "printing/registratore.h"
 #include "tests/core/ditta_di_prova.h"
 
 // A firm with an open day, as the document screen finds it.
 struct Documenti_Di_Prova : Ditta_Di_Prova {
+  Registro_Pagine registro;
+  Registratore printer{macchina.stampante, registro};
   Zsani zsani;
   std::vector<Documento_Cliente> stampati;
 
   explicit Documenti_Di_Prova(char separatore = ',') {
     macchina.separatore = separatore;
+    macchina.dispositivo = &printer;
     programma.Separatore_Decimale = separatore;
     programma.Separatore_Altro = Altro_Separatore(separatore);
     programma.Anno_Lavoro = "2025";
@@ -35,7 +39,7 @@ struct Documenti_Di_Prova : Ditta_Di_Prova {
                           {"A083721 - Mediterraneo Adriatico", "FAO n.37.2.1"},
                           {"C - Prodotto di acquacoltura", "Allevato"}};
     programma.Vet_Tabella.righe = {Riga_Segnaposto()};
-    zsani.stampa = [this](const Documento_Cliente& documento) {
+    zsani.stampa = [this](const Documento_Cliente& documento, const Avanzamento&) {
       stampati.push_back(documento);
       return true;
     };

@@ -364,17 +364,25 @@ TEST(Comandi, StatoSegueLoSchermo) {
   for (const Voce_Comando& voce : Comandi()) EXPECT_FALSE(attivo(voce.nome)) << voce.nome;
 }
 
-TEST(Comandi, QuelliFuturiSonoSpenti) {
+TEST(Comandi, QuelliIgnotiSonoSpenti) {
   Giornata_Di_Prova g;
   g.Apri();
-  ASSERT_FALSE(Comandi_Futuri().empty());
-  for (const Voce_Comando& voce : Comandi_Futuri())
-    EXPECT_FALSE(StatoComando(g.programma, g.edita, voce.nome).attivo) << voce.nome;
+  EXPECT_FALSE(StatoComando(g.programma, g.edita, "Nessun_Comando").attivo);
   EXPECT_FALSE(StatoComando(g.programma, g.edita, "Esclusi").visibile);
-  EXPECT_FALSE(StatoComando(g.programma, g.edita, "DSI").visibile);
-  g.programma.preferenze.FlagDSimmediato = true;
-  EXPECT_TRUE(StatoComando(g.programma, g.edita, "DSI").visibile);
   EXPECT_FALSE(StatoComando(g.programma, g.edita, "BottoneDDT").visibile);
+}
+
+TEST(Comandi, IDocumentiImmediatiSeguonoLeImpostazioni) {
+  Giornata_Di_Prova g;
+  g.Apri();
+  const auto visibile = [&](Vista nome) { return StatoComando(g.programma, g.edita, nome).visibile; };
+  EXPECT_FALSE(visibile("DSI") || visibile("DSI_Riga"));
+  g.programma.preferenze.FlagDSimmediato = true;
+  EXPECT_TRUE(visibile("DSI"));
+  EXPECT_FALSE(visibile("DSI_Riga"));
+  g.programma.preferenze.FlagDSimmediatoUR = true;
+  EXPECT_TRUE(visibile("DSI_Riga"));
+  EXPECT_TRUE(StatoComando(g.programma, g.edita, "DSI_Riga").attivo);
 }
 
 TEST(Comandi, VociDiMenu) {
@@ -386,16 +394,17 @@ TEST(Comandi, VociDiMenu) {
   }
   EXPECT_THAT(
       funzionano,
-      ElementsAre("Cancella Tutto", "Salva", "Vettori", "Chiudi", "Preferenze Operative", "Stampante",
-                  "Colore Lista", "Rinnova Liste", "Mediterraaneo FAO 37", "Tutto l Mondo", "Per Immissione",
-                  "Per Fornitore", "Per Cliente", "Per Cliente e specie", "per Codice Cliente", "Per Specie",
-                  "Per Prezzo", "Per Num. Conto Vendita", "Per Provenienza", "per aliquota IVA",
-                  "Per Fattura", "Per DDT", "Per Fornitore+Specie+Immissione", "Per Attrezzo di pesca",
-                  "Per Pezzatura", "Per Stato Fisico", "Per Lavorazione", "Per Preparazione",
-                  "Come Doc Sanitario", "PrefSpecie", "PrefFornitori", "&Lista_F12", "Aiuto", "Lotti",
-                  "Fatture 1", "Fatture 2", "Transazioni", "Numerazione DDT e DS",
-                  "Specie e Fornitori Predefiniti", "Prezzo per cassa", "Export Prima Nota Esteso", "Campi",
-                  "Stampa Liste", "salva lista Specie", "Etichette", "Marca"));
+      ElementsAre(
+          "Cancella Tutto", "Salva", "Vettori", "Controllo CV", "Stampa Schermo", "Chiudi",
+          "Preferenze Operative", "Preferenze per Doc. Sanitario e DDI", "Preferenze Fatture Personalizzate",
+          "Stampante", "Colore Lista", "Rinnova Liste", "Mediterraaneo FAO 37", "Tutto l Mondo",
+          "Per Immissione", "Per Fornitore", "Per Cliente", "Per Cliente e specie", "per Codice Cliente",
+          "Per Specie", "Per Prezzo", "Per Num. Conto Vendita", "Per Provenienza", "per aliquota IVA",
+          "Per Fattura", "Per DDT", "Per Fornitore+Specie+Immissione", "Per Attrezzo di pesca",
+          "Per Pezzatura", "Per Stato Fisico", "Per Lavorazione", "Per Preparazione", "Come Doc Sanitario",
+          "PrefSpecie", "PrefFornitori", "&Lista_F12", "Aiuto", "Lotti", "Fatture 1", "Fatture 2",
+          "Transazioni", "Numerazione DDT e DS", "Specie e Fornitori Predefiniti", "Prezzo per cassa",
+          "Export Prima Nota Esteso", "Campi", "Stampa Liste", "salva lista Specie", "Etichette", "Marca"));
   Marca(g.edita);
   EXPECT_EQ(DidascaliaMenu(g.edita, Menu().back()), "SMarca");
 }

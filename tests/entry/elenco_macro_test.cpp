@@ -89,7 +89,7 @@ TEST(ElencoMacro, TitoliENumero) {
   EXPECT_EQ(fornitori.elenco.titolo, "Lista delle Fornitori Predefiniti - presenti 3");
   EXPECT_THAT(specie.Codici(), ElementsAre("07", "ORATE1", "SEPPIE"));
   EXPECT_EQ(specie.elenco.List1.scelta, 0);
-  EXPECT_FALSE(specie.elenco.Stampa.attivo);
+  EXPECT_TRUE(specie.elenco.Stampa.attivo);
 }
 
 TEST(ElencoMacro, FileEstraneiNonDannoDisturbo) {

@@ -394,8 +394,18 @@ TEST(Schermo, SoloITastiNudi) {
   g.Apri();
   EXPECT_FALSE(TastoSchermo(g.programma, g.edita, {.tasto = Tasto::F5, .maiuscole = true}));
   EXPECT_FALSE(TastoSchermo(g.programma, g.edita, {.tasto = Tasto::F9, .ctrl = true}));
-  for (const Tasto tasto : {Tasto::F2, Tasto::F6, Tasto::F10, Tasto::F12, Tasto::Invio})
-    EXPECT_FALSE(g.PremiSchermo(tasto));
+  for (const Tasto tasto : {Tasto::F10, Tasto::F12, Tasto::Invio}) EXPECT_FALSE(g.PremiSchermo(tasto));
+  EXPECT_EQ(g.edita.schermo, "");
+}
+
+// The accounts and the printed ledger are one key away, from any field.
+TEST(Schermo, F2EF6ChiedonoLeSchermateDiAltreStanze) {
+  for (const auto& [tasto, comando] : {std::pair{Tasto::F2, "Conti_Vendita"}, {Tasto::F6, "Prima_Nota"}}) {
+    Giornata_Di_Prova g;
+    g.Apri();
+    EXPECT_TRUE(g.PremiSchermo(tasto));
+    EXPECT_EQ(g.edita.schermo, comando);
+  }
 }
 
 TEST(Schermo, F4SoloConModificaAttiva) {

@@ -252,10 +252,10 @@ TEST_P(Mappa_Disegnata, ConLeFrecceSiArrivaAOgniScrittaDaQualunque) {
 
 TEST_P(Mappa_Disegnata, LaCostaDiUnAreaEUnPezzoDellaCostaELaTocca) {
   std::set<std::pair<double, double>> punti;
-  for (const Linea& costa : mappa.coste)
+  for (const Spezzata& costa : mappa.coste)
     for (const Punto_Mappa punto : costa) punti.emplace(punto.x, punto.y);
   for (const Bersaglio& bersaglio : mappa.bersagli)
-    for (const Linea& costa : Coste_Di(mappa, bersaglio)) {
+    for (const Spezzata& costa : Coste_Di(mappa, bersaglio)) {
       EXPECT_FALSE(costa.empty());
       for (const Punto_Mappa punto : costa) ASSERT_TRUE(punti.count({punto.x, punto.y}));
     }
@@ -336,7 +336,7 @@ TEST(Mappe, OgniMareDelMondoHaUnArea) {
 TEST(Mappe, DoveIContorniSonoTagliatiNonCECosta) {
   const Mappa_Zone& mappa = Mappa_Di(nomi_mappa::Mondo);
   const double cambio_data = Punto_Su(nomi_mappa::Mondo, 180, 0).x;
-  for (const Linea& costa : mappa.coste)
+  for (const Spezzata& costa : mappa.coste)
     for (std::size_t i = 1; i < costa.size(); ++i)
       EXPECT_FALSE(std::abs(costa[i].x - cambio_data) < 0.04 &&
                    std::abs(costa[i - 1].x - cambio_data) < 0.04 &&

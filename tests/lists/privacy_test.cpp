@@ -19,14 +19,14 @@ constexpr Vista lettera = "Informativa\r\n\r\nI dati servono ai documenti.\r\n";
 
 TEST_F(Lettere, IlDestinatarioConDueNomi) {
   StampaPrivacy(programma, {"prima", "", "terza"}, {"Rossi", "Pesca", "Via Mare 1", "30100 Venezia"}, "0012");
-  EXPECT_THAT(registro.righe,
-              ElementsAre("documento \"20250314 Privacy 0012\" Registro", "pagina 1 verticale 210x297",
-                          "p1 testo 105.00 55.00 Arial 10 grassetto: Spett.le Rossi",
-                          "p1 testo 105.00 60.00 Arial 10 grassetto: Pesca",
-                          "p1 testo 105.00 65.00 Arial 10 grassetto: Via Mare 1",
-                          "p1 testo 105.00 70.00 Arial 10 grassetto: 30100 Venezia",
-                          "p1 testo 10.00 90.00 Arial 10: prima", "p1 testo 10.00 98.00 Arial 10: terza",
-                          "fine"));
+  EXPECT_THAT(
+      registro.righe,
+      ElementsAre("documento \"20250314 Privacy 0012\" Registro", "pagina 1 verticale 210x297",
+                  "p1 testo 105.00 55.00 Arial 10 grassetto: Spett.le Rossi",
+                  "p1 testo 105.00 60.00 Arial 10 grassetto: Pesca",
+                  "p1 testo 105.00 65.00 Arial 10 grassetto: Via Mare 1",
+                  "p1 testo 105.00 70.00 Arial 10 grassetto: 30100 Venezia",
+                  "p1 testo 10.00 90.00 Arial 10: prima", "p1 testo 10.00 98.00 Arial 10: terza", "fine"));
 }
 
 TEST_F(Lettere, SenzaSecondoNomeLeRigheSalgono) {

@@ -171,6 +171,36 @@ TEST_F(Dispositivo_Di_Pagina, SenzaStampanteNonDisegnaEMisuraComeA4) {
   EXPECT_FLOAT_EQ(printer.ScaleHeight(), 297);
 }
 
+// A printer that comes back in the midst of a document prints none of it: half a document is worse than none.
+TEST_F(Dispositivo_Di_Pagina, UnDocumentoMancatoMancaTutto) {
+  const auto stampante = macchina.stampante;
+  macchina.stampante.reset();
+  printer.documento = {"20250314", "Fattura", "12", ""};
+  printer.Print("testa");
+  macchina.stampante = stampante;
+  printer.Print("righe");
+  printer.NewPage();
+  printer.EndDoc();
+  EXPECT_THAT(registro.righe, IsEmpty());
+  printer.Print("di nuovo");
+  printer.EndDoc();
+  EXPECT_THAT(registro.righe, testing::Contains(testing::EndsWith(": di nuovo")));
+  EXPECT_EQ(registro.righe.back(), "fine");
+}
+
+// A routine that left without ending its document doesn't take the next one with it.
+TEST_F(Dispositivo_Di_Pagina, DopoUnDocumentoMancatoIlProssimoEsce) {
+  const auto stampante = macchina.stampante;
+  macchina.stampante.reset();
+  printer.documento = {"20250314", "Fattura", "12", ""};
+  printer.Print("testa");
+  macchina.stampante = stampante;
+  printer.documento.numero = "13";
+  printer.Print("testa");
+  printer.EndDoc();
+  EXPECT_EQ(registro.righe.front(), "documento \"20250314 Fattura 13\" Registro");
+}
+
 TEST_F(Dispositivo_Di_Pagina, LaSceltaDellaStampante) {
   printer.altre_stampanti = {"Etichette"};
   EXPECT_THAT(printer.Stampanti(), ElementsAre("Registro", "Etichette", "PDF"));

@@ -6,7 +6,6 @@
 #include <QFontInfo>
 #include <QImage>
 #include <QPrinter>
-#include <QProcess>
 #include <QRawFont>
 #include <QRegularExpression>
 
@@ -17,6 +16,7 @@
 #include "printing/registratore.h"
 #include "printing/screens/stampante_qt.h"
 #include "tests/core/ditta_di_prova.h"
+#include "tests/stampa_qt/pdf_riletto.h"
 
 namespace {
 
@@ -24,96 +24,6 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
-
-constexpr double mezzo_millimetro = 0.5;
-constexpr double mm_per_punto = 25.4 / 72;
-
-QString Esegui(const QString& programma, const QStringList& argomenti) {
-  QProcess processo;
-  processo.setProcessChannelMode(QProcess::MergedChannels);
-  processo.start(programma, argomenti);
-  if (!processo.waitForFinished()) return "(" + programma + " non parte)";
-  return QString::fromUtf8(processo.readAll()) + "esito " + QString::number(processo.exitCode());
-}
-
-QString In_Qt(const Percorso& file) { return QString::fromStdString(file.string()); }
-
-struct Parola_Stampata {
-  int pagina = 0;
-  double x = 0, y = 0, destra = 0;  // millimetres from the sheet's corner
-  QString testo;
-};
-
-std::vector<Parola_Stampata> Parole(const Percorso& file) {
-  const QString html = Esegui("pdftotext", {"-bbox", In_Qt(file), "-"});
-  static const QRegularExpression forma(
-      "<page |<word xMin=\"([0-9.-]+)\" yMin=\"([0-9.-]+)\" xMax=\"([0-9.-]+)\" "
-      "yMax=\"[0-9.-]+\">(.*?)</word>");
-  std::vector<Parola_Stampata> esito;
-  int pagina = 0;
-  for (auto trovate = forma.globalMatch(html); trovate.hasNext();) {
-    const auto parte = trovate.next();
-    if (parte.captured(0) == "<page ") {
-      ++pagina;
-      continue;
-    }
-    QString testo = parte.captured(4);
-    testo.replace("&amp;", "&").replace("&lt;", "<").replace("&gt;", ">");
-    esito.push_back({pagina, parte.captured(1).toDouble() * mm_per_punto,
-                     parte.captured(2).toDouble() * mm_per_punto, parte.captured(3).toDouble() * mm_per_punto,
-                     testo});
-  }
-  return esito;
-}
-
-// What the recorder says was written: page, place, font and the text itself.
-struct Testo_Scritto {
-  int pagina = 0;
-  double x = 0, y = 0, larghezza = 0;
-  QString testo;
-};
-
-std::vector<Testo_Scritto> Testi(const Registro_Pagine& registro) {
-  static const QRegularExpression forma(
-      "^p(\\d+) testo (\\S+) (\\S+) (.+?) ([0-9.]+)( grassetto)?( corsivo)?: (.*)$");
-  std::vector<Testo_Scritto> esito;
-  for (const Testo& riga : registro.righe) {
-    const auto parti = forma.match(In_QString(riga));
-    if (!parti.hasMatch()) continue;
-    const Testo carattere = Da_QString(parti.captured(4)), testo = Da_QString(parti.captured(8));
-    const Metrica& metrica = Metrica_Della_Faccia(Faccia_Di(carattere), !parti.captured(6).isEmpty());
-    const double larghezza = static_cast<double>(Unita(metrica, testo)) / metrica.quadrato *
-                             parti.captured(5).toDouble() * mm_per_punto;
-    esito.push_back({parti.captured(1).toInt(), parti.captured(2).toDouble(), parti.captured(3).toDouble(),
-                     larghezza, parti.captured(8)});
-  }
-  return esito;
-}
-
-// Every text of the recorder stands on the page, its first word where the text begins and its last where it
-// ends.
-void Esigi_Testi_Al_Posto(const Registro_Pagine& registro, const Percorso& file, double origine_x = 0,
-                          double origine_y = 0) {
-  const auto parole = Parole(file);
-  const auto testi = Testi(registro);
-  ASSERT_FALSE(testi.empty());
-  for (const Testo_Scritto& testo : testi) {
-    const QStringList voci = testo.testo.split(' ', Qt::SkipEmptyParts);
-    const auto al_posto = [&](const QString& voce, bool in_fine) {
-      return std::any_of(parole.begin(), parole.end(), [&](const Parola_Stampata& parola) {
-        const double x = in_fine ? parola.destra : parola.x;
-        const double voluta = origine_x + testo.x + (in_fine ? testo.larghezza : 0);
-        return parola.pagina == testo.pagina && parola.testo == voce &&
-               std::abs(x - voluta) < mezzo_millimetro &&
-               std::abs(parola.y - testo.y - origine_y) < mezzo_millimetro;
-      });
-    };
-    EXPECT_TRUE(al_posto(voci.front(), false))
-        << testo.testo.toStdString() << " comincia a " << testo.x << " " << testo.y;
-    EXPECT_TRUE(al_posto(voci.back(), true))
-        << testo.testo.toStdString() << " finisce a " << testo.x + testo.larghezza;
-  }
-}
 
 // Two pages with everything that layouts draw.
 void Disegna_Prova(const Programma& programma) {
@@ -342,25 +252,40 @@ TEST_F(Stampa_Qt, LaMacchinaDiceLaStampanteInUso) {
 
 // Where a file stands in the folder's place nothing can be printed, and the captions say so.
 TEST_F(Stampa_Qt, SenzaLaCartellaStampeNonCEStampante) {
+  std::vector<Testo> avvisi;
+  stampante.avviso = [&](const Testo& testo) { avvisi.push_back(testo); };
   ditta.cartella.Metti("Stampe", "un file");
   EXPECT_EQ(stampante.DeviceName(), std::nullopt);
   EXPECT_EQ(NomeStampante(stampante), "nessuna stampante...");
   Stampa(stampante);
+  ASSERT_EQ(avvisi.size(), 1U);  // of a document of many lines
+  EXPECT_THAT(avvisi[0], HasSubstr("non è stato scritto nella cartella\n"_t));
   EXPECT_EQ(stampante.Ultimo_PDF(), Percorso());
   EXPECT_EQ(ditta.cartella.Contenuto("Stampe"), "un file");
 }
 
-TEST_F(Stampa_Qt, UnPDFPersoSiDiceUnaVoltaSola) {
+// Of a run only the first lost document is told; the operator who tries that one again hears of it again.
+TEST_F(Stampa_Qt, DiUnGiroPersoSiDiceIlPrimoDocumento) {
   std::vector<Testo> avvisi;
   stampante.avviso = [&](const Testo& testo) { avvisi.push_back(testo); };
   stampante.disco.guasto = [](const Percorso& file) { return file.extension() == ".pdf" ? ENOSPC : 0; };
-  Stampa(stampante);
-  Stampa(stampante);
+  const auto stampa_numero = [&](const Testo& numero) {
+    stampante.documento = {"20250314", "Fattura", numero, "00345"};
+    stampante.Print("totale");
+    stampante.EndDoc();
+  };
+  for (const Vista numero : {"12", "13", "14"}) stampa_numero(Testo(numero));
   ASSERT_EQ(avvisi.size(), 1U);
   EXPECT_THAT(avvisi[0], HasSubstr("Fattura 12 del 14/03/2025 - 00345"));
+  EXPECT_THAT(avvisi[0], HasSubstr("/Stampe\n"));
+  stampa_numero("12");
+  EXPECT_EQ(avvisi.size(), 2U);
   EXPECT_EQ(stampante.Ultimo_PDF(), Percorso());
   stampante.disco.guasto = nullptr;
   EXPECT_EQ(Stampa(stampante), File_Stampe("20250314 Fattura 12 00345.pdf"));
+  stampante.disco.guasto = [](const Percorso& file) { return file.extension() == ".pdf" ? ENOSPC : 0; };
+  stampa_numero("15");
+  EXPECT_EQ(avvisi.size(), 3U);
 }
 
 // A printer of the system whose driver keeps 5 and 7 mm of the paper for itself; it prints into a file.
@@ -393,6 +318,58 @@ TEST_F(Stampa_Qt, SullaStampanteDiSistemaIPostiSiContanoDaDoveSiPuoStampare) {
   EXPECT_EQ(rete.Ultimo_PDF(), Percorso());
   EXPECT_FALSE(std::filesystem::exists(ditta.cartella / "Stampe"));
   Esigi_Testi_Al_Posto(registro, rete.uscita, 5, 7);
+}
+
+// The borders turn with the sheet.
+TEST_F(Stampa_Qt, SullaStampanteDiSistemaIlFoglioGira) {
+  Stampante_Di_Rete rete(ditta.cartella.percorso);
+  rete.uscita = ditta.cartella / "rete.pdf";
+  ASSERT_TRUE(rete.Scegli("Ufficio", Orizzontale));
+  rete.ScaleMode(Scala_Millimetri);
+  EXPECT_NEAR(rete.ScaleWidth(), 283, 0.1);
+  EXPECT_NEAR(rete.ScaleHeight(), 200, 0.1);
+  StampaTesto(rete, 250, 180, "in-fondo", "Arial", 10, false);
+  rete.Orientation(Verticale);
+  rete.NewPage();
+  StampaTesto(rete, 150, 270, "in-piedi", "Arial", 10, false);
+  rete.EndDoc();
+  const auto parole = Parole(rete.uscita);
+  ASSERT_EQ(parole.size(), 2U);
+  EXPECT_NEAR(parole[0].x, 250 + 7, mezzo_millimetro);
+  EXPECT_NEAR(parole[0].y, 180 + 5, mezzo_millimetro);
+  EXPECT_NEAR(parole[1].x, 150 + 5, mezzo_millimetro);
+  EXPECT_NEAR(parole[1].y, 270 + 7, mezzo_millimetro);
+  const QString notizie = Esegui("pdfinfo", {"-f", "1", "-l", "2", In_Qt(rete.uscita)});
+  EXPECT_TRUE(notizie.contains(QRegularExpression("Page +1 size: +842"))) << notizie.toStdString();
+  EXPECT_TRUE(notizie.contains(QRegularExpression("Page +2 size: +595"))) << notizie.toStdString();
+}
+
+// Asked once for a document, not for each of its lines: a print server may let one wait.
+TEST_F(Stampa_Qt, UnaStampanteSparitaDopoLaSceltaEDetta) {
+  struct Sparita : Stampante_Di_Rete {
+    using Stampante_Di_Rete::Stampante_Di_Rete;
+    bool spenta = false;
+    mutable int richieste = 0;
+    std::unique_ptr<QPrinter> Stampante_Di_Sistema(const QString& nome) const override {
+      ++richieste;
+      return spenta ? nullptr : Stampante_Di_Rete::Stampante_Di_Sistema(nome);
+    }
+  } sparita{ditta.cartella.percorso};
+  sparita.uscita = ditta.cartella / "rete.pdf";
+  std::vector<Testo> avvisi;
+  sparita.avviso = [&](const Testo& testo) { avvisi.push_back(testo); };
+  ASSERT_EQ(sparita.DeviceName(), "Ufficio");
+  sparita.spenta = true;
+  sparita.richieste = 0;
+  Stampa(sparita);
+  EXPECT_EQ(sparita.richieste, 1);
+  EXPECT_THAT(avvisi, ElementsAre("Il documento\nFattura 12 del 14/03/2025 - 00345\nnon è stato stampato. La "
+                                  "stampante\nUfficio\nnon risponde. Se ne sceglie un'altra dal menu "
+                                  "\"Stampante\"."_t));
+  sparita.spenta = false;
+  Stampa(sparita);
+  EXPECT_EQ(avvisi.size(), 1U);
+  EXPECT_TRUE(std::filesystem::exists(sparita.uscita));
 }
 
 TEST_F(Stampa_Qt, UnaStampanteCheNonRispondeNonSiPrende) {

@@ -172,11 +172,11 @@ TEST_F(Inizio, I_comandi_degli_strumenti) {
   Carica();
   for (const Bottone* bottone :
        {&inizio.Command1, &inizio.Command2, &inizio.Command4, &inizio.Command5, &inizio.Command6,
-        &inizio.Command8, &inizio.Command10, &inizio.Command11, &inizio.Command12}) {
+        &inizio.Command7, &inizio.Command8, &inizio.Command10, &inizio.Command11, &inizio.Command12}) {
     EXPECT_TRUE(bottone->attivo) << bottone->testo;
     EXPECT_TRUE(bottone->visibile) << bottone->testo;
   }
-  for (const Bottone* bottone : {&inizio.Command7, &inizio.Command9, &inizio.Command15, &inizio.Command16}) {
+  for (const Bottone* bottone : {&inizio.Command9, &inizio.Command15, &inizio.Command16}) {
     EXPECT_FALSE(bottone->attivo) << bottone->testo;
     EXPECT_TRUE(bottone->visibile) << bottone->testo;
   }

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <utility>
+
+#include "accounts/zvendita.h"
+
+// What the routines of the screen share among themselves.
+
+// A command runs or asks: keys and clicks that come meanwhile do nothing.
+class Conti_Fermi {
+ public:
+  explicit Conti_Fermi(Zvendita& zvendita)
+      : zvendita_(zvendita), era_attiva_(std::exchange(zvendita.attiva, false)) {
+    AggiornaComandi(zvendita_);
+  }
+  ~Conti_Fermi() {
+    zvendita_.attiva = era_attiva_;
+    AggiornaComandi(zvendita_);
+  }
+  Conti_Fermi(const Conti_Fermi&) = delete;
+  Conti_Fermi& operator=(const Conti_Fermi&) = delete;
+
+ private:
+  Zvendita& zvendita_;
+  bool era_attiva_;
+};
+
+class Conti_Occupati {
+ public:
+  explicit Conti_Occupati(Piattaforma& piattaforma) : piattaforma_(piattaforma) {
+    piattaforma_.Occupato(true);
+  }
+  ~Conti_Occupati() { piattaforma_.Occupato(false); }
+  Conti_Occupati(const Conti_Occupati&) = delete;
+  Conti_Occupati& operator=(const Conti_Occupati&) = delete;
+
+ private:
+  Piattaforma& piattaforma_;
+};
+
+// The caption with the day and the last number.
+void TitoloConti(const Programma& programma, Zvendita& zvendita);
+// The list from Tabella_CV with that line selected, the last one where there are fewer.
+void RiempiListaCV(const Programma& programma, Zvendita& zvendita, int scelta);
+// The town of the field becomes that of the settings, unless it is blank.
+void PrendiCitta(Programma& programma, const Zvendita& zvendita);
+
+// The six fields, trimmed.
+Conto_CV CampiConto(const Zvendita& zvendita);
+Conto_CV& ContoScelto(Zvendita& zvendita);
+// Whether the fields differ from the selected account.
+bool CampiCambiati(const Zvendita& zvendita);
+
+enum class Esito_Modifica { Uguale, Annullata, Fatta, Fallita };
+Esito_Modifica EseguiModifica(Programma& programma, Zvendita& zvendita);
+// False when the day couldn't be saved (told); a refusal is no failure.
+bool EseguiSalvaNumerazione(Programma& programma, Zvendita& zvendita);
+// The number on the last line of the list becomes the last one of all. False when it couldn't be written.
+bool Aggiorna_Ultimo_CV(Programma& programma, const Zvendita& zvendita);

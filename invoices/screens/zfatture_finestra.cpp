@@ -1,0 +1,291 @@
+#include "invoices/screens/zfatture_finestra.h"
+
+#include <utility>
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+
+#include "invoices/screens/diciture_finestra.h"
+#include "invoices/stampa_fatture.h"
+#include "lists/screens/parti.h"
+#include "platform/aspetto.h"
+#include "platform/tasti_qt.h"
+#include "platform/testo_qt.h"
+#include "printing/screens/stampante_finestra.h"
+
+namespace {
+
+constexpr int caratteri_lista = 72;  // of a line of the lists
+
+QGroupBox* Riquadro_Titolato(const QString& titolo) {
+  auto* riquadro = new QGroupBox(titolo);
+  riquadro->setFont(Carattere(punti_normali, true));
+  return riquadro;
+}
+
+}  // namespace
+
+ZFattureFinestra::ZFattureFinestra(Programma& programma, ZFatture zfatture, QWidget* padre)
+    : Finestra(QStringLiteral("ZFatture"), padre, Qt::Window),
+      programma_(programma),
+      zfatture_(std::move(zfatture)) {
+  setFont(Carattere(punti_normali));
+  auto* destra = new QVBoxLayout;
+  destra->setSpacing(12);
+  destra->addWidget(fa_documento());
+  destra->addWidget(fa_stampa());
+  destra->addWidget(fa_filtri());
+  destra->addStretch();
+  destra->addWidget(fa_bottone(QStringLiteral("Chiudi"), zfatture_.Chiudi,
+                               [this] { ChiudiFatture(programma_, zfatture_); }));
+  auto* affiancate = new QHBoxLayout;
+  affiancate->setContentsMargins(18, 14, 18, 14);
+  affiancate->setSpacing(14);
+  affiancate->addWidget(fa_liste(), 1);
+  affiancate->addLayout(destra);
+
+  auto* tutto = new QVBoxLayout(this);
+  tutto->setContentsMargins(0, 0, 0, 0);
+  tutto->setMenuBar(fa_menu());
+  tutto->addLayout(affiancate, 1);
+  mostra();
+  QListView* prima = zfatture_.ListaAttiva == TipoFattura::Fattura ? fatture_ : note_;
+  prima->setFocus(Qt::OtherFocusReason);
+}
+
+QMenuBar* ZFattureFinestra::fa_menu() {
+  auto* barra = new QMenuBar;
+  const auto voce = [this](QWidget* menu, const char* nome, Bottone& stato, Legame::Evento evento) {
+    auto* azione = new QAction(In_QString(stato.testo), menu);
+    menu->addAction(azione);
+    legame.lega(azione, QString::fromUtf8(nome), stato, std::move(evento));
+  };
+  const auto dello_schermo = [this](void (*routine)(Programma&, ZFatture&)) {
+    return [this, routine] { routine(programma_, zfatture_); };
+  };
+  const auto del_programma = [this](void (*routine)(Programma&)) {
+    return [this, routine] { routine(programma_); };
+  };
+  QMenu* numerazione = barra->addMenu(QStringLiteral("Numerazione"));
+  voce(numerazione, "NumeraFat", zfatture_.NumeraFat, dello_schermo(NumeraFat));
+  voce(numerazione, "NumeraNA", zfatture_.NumeraNA, dello_schermo(NumeraNA));
+  voce(numerazione, "Numera_Tutto", zfatture_.Numera_Tutto, dello_schermo(NumeraTutto));
+  voce(numerazione, "Annulla_Numerazione", zfatture_.Annulla_Numerazione, dello_schermo(AnnullaNumerazione));
+  numerazione->addSeparator();
+  voce(numerazione, "Aggiungi_Data", zfatture_.Aggiungi_Data, dello_schermo(AggiungiData));
+  voce(numerazione, "Togli_Data", zfatture_.Togli_Data, dello_schermo(TogliData));
+  QMenu* elenchi = barra->addMenu(QStringLiteral("Mostra"));
+  voce(elenchi, "Mostra_Transazioni", zfatture_.Mostra_Transazioni, del_programma(MostraTransazioni));
+  voce(elenchi, "Mostra_Fatture", zfatture_.Mostra_Fatture, del_programma(MostraFatture));
+  voce(elenchi, "Mostra_Report", zfatture_.Mostra_Report, del_programma(MostraReport));
+  voce(elenchi, "Formato_Semplice", zfatture_.Formato_Semplice, del_programma(MostraFormatoSemplice));
+  voce(elenchi, "Formato_Lear", zfatture_.Formato_Lear, {});
+  voce(barra, "Personalizza_Fatture", zfatture_.Personalizza_Fatture,
+       [this] { DicitureFinestra(programma_, this).esegui(); });
+  voce(barra, "Scelta_Stampante", zfatture_.Scelta_Stampante,
+       [this] { StampanteFinestra(programma_, this).esegui(); });
+  return barra;
+}
+
+QListView* ZFattureFinestra::fa_lista(const QString& nome, Elenco& stato, const Scritta& didascalia,
+                                      TipoFattura tipo) {
+  auto* lista = new ListaVoci(programma_.preferenze.DimFontListe);
+  lista->setAccessibleName(In_QString(didascalia.testo));
+  lista->setMinimumWidth(lista->fontMetrics().horizontalAdvance(QLatin1Char('0')) * caratteri_lista);
+  legame.lega(lista, nome, stato,
+              [this, &stato, tipo] { SceltaDocumento(programma_, zfatture_, tipo, stato.scelta); });
+  connect(lista, &QListView::clicked, this, [this, &stato, tipo] {
+    legame.esegui([&] { SceltaDocumento(programma_, zfatture_, tipo, stato.scelta); });
+  });
+  connect(lista, &QListView::doubleClicked, this, [this, tipo] { stampa(tipo); });
+  lista->installEventFilter(this);
+  return lista;
+}
+
+QWidget* ZFattureFinestra::fa_liste() {
+  auto* parte = new QWidget;
+  auto* colonna = new QVBoxLayout(parte);
+  colonna->setContentsMargins(0, 0, 0, 0);
+  colonna->setSpacing(6);
+  colonna->addWidget(fa_scritta(QStringLiteral("Caption_MList2"), zfatture_.Caption_MList2));
+  QLabel* titolo = fa_scritta(QStringLiteral("ListaTitolo"), zfatture_.ListaTitolo);
+  titolo->setFont(Carattere_Fisso(programma_.preferenze.DimFontListe));
+  colonna->addWidget(titolo);
+  fatture_ =
+      fa_lista(QStringLiteral("MList2"), zfatture_.MList2, zfatture_.Caption_MList2, TipoFattura::Fattura);
+  note_ = fa_lista(QStringLiteral("ListNA"), zfatture_.ListNA, zfatture_.Caption_ListNA, TipoFattura::Nota);
+  colonna->addWidget(fatture_, 3);
+  colonna->addWidget(fa_scritta(QStringLiteral("Caption_ListNA"), zfatture_.Caption_ListNA));
+  colonna->addWidget(note_, 1);
+  colonna->addLayout(fa_ordini());
+  return parte;
+}
+
+QBoxLayout* ZFattureFinestra::fa_ordini() {
+  auto* riga = new QHBoxLayout;
+  const auto ordina = [this](ColonnaFatture colonna) {
+    return [this, colonna] { Ordina(programma_, zfatture_, colonna); };
+  };
+  riga->addWidget(
+      fa_bottone(QStringLiteral("Ordina_Codice"), zfatture_.Ordina_Codice, ordina(ColonnaFatture::Codice)));
+  riga->addWidget(fa_bottone(QStringLiteral("Ordina_Cliente"), zfatture_.Ordina_Cliente,
+                             ordina(ColonnaFatture::Cliente)));
+  riga->addWidget(
+      fa_bottone(QStringLiteral("Ordina_Numero"), zfatture_.Ordina_Numero, ordina(ColonnaFatture::Numero)));
+  return riga;
+}
+
+QGroupBox* ZFattureFinestra::fa_documento() {
+  auto* riquadro = Riquadro_Titolato(QStringLiteral("Documento"));
+  auto* griglia = new QGridLayout(riquadro);
+  for (int i = 1; i <= 3; ++i) {
+    const auto posto = static_cast<std::size_t>(i);
+    auto* didascalia = fa_scritta(QStringLiteral("Caption(%1)").arg(i), zfatture_.Caption[posto]);
+    auto* campo =
+        fa_campo(QStringLiteral("Text1(%1)").arg(i), zfatture_.Text1[posto], zfatture_.Caption[posto]);
+    didascalia->setBuddy(campo);
+    griglia->addWidget(didascalia, i, 0);
+    griglia->addWidget(campo, i, 1);
+  }
+  auto* bottoni = new QHBoxLayout;
+  bottoni->addWidget(fa_bottone(QStringLiteral("ModificaFAT"), zfatture_.ModificaFAT,
+                                [this] { ModificaFAT(programma_, zfatture_); }));
+  bottoni->addWidget(fa_bottone(QStringLiteral("ModificaNA"), zfatture_.ModificaNA,
+                                [this] { ModificaNA(programma_, zfatture_); }));
+  griglia->addLayout(bottoni, 4, 0, 1, 2);
+  return riquadro;
+}
+
+QGroupBox* ZFattureFinestra::fa_stampa() {
+  auto* riquadro = Riquadro_Titolato(QStringLiteral("Stampa"));
+  auto* griglia = new QGridLayout(riquadro);
+  griglia->addWidget(fa_casella(QStringLiteral("Tutte"), zfatture_.Tutte), 0, 0, 1, 2);
+  griglia->addWidget(fa_casella(QStringLiteral("Stampale"), zfatture_.Stampale), 1, 0);
+  griglia->addWidget(fa_casella(QStringLiteral("Paginax2"), zfatture_.Paginax2), 1, 1);
+  griglia->addWidget(fa_casella(QStringLiteral("Personalizzata"), zfatture_.Personalizzata), 2, 0);
+  griglia->addWidget(fa_casella(QStringLiteral("Check1"), zfatture_.Check1), 2, 1);
+  griglia->addWidget(fa_casella(QStringLiteral("Completa"), zfatture_.Completa), 3, 0);
+  auto* copie = new QComboBox;
+  copie->setFont(Carattere(punti_normali));
+  copie->setAccessibleName(QStringLiteral("Copie"));
+  legame.lega(copie, QStringLiteral("Combo2"), zfatture_.Combo2);
+  griglia->addWidget(copie, 3, 1);
+  auto* luogo = fa_scritta(QStringLiteral("Caption_Text2"), zfatture_.Caption_Text2);
+  auto* citta = fa_campo(QStringLiteral("Text2"), zfatture_.Text2, zfatture_.Caption_Text2);
+  luogo->setBuddy(citta);
+  griglia->addWidget(luogo, 4, 0);
+  griglia->addWidget(citta, 4, 1);
+  griglia->addWidget(fa_bottone(QStringLiteral("Command3"), zfatture_.Command3,
+                                [this] { StampaFatNa(programma_, zfatture_); }),
+                     5, 0, 1, 2);
+  griglia->addWidget(
+      fa_bottone(QStringLiteral("Command7"), zfatture_.Command7, [this] { Report(programma_, zfatture_); }),
+      6, 0);
+  griglia->addWidget(
+      fa_bottone(QStringLiteral("Command6"), zfatture_.Command6, [this] { Archivio(programma_, zfatture_); }),
+      6, 1);
+  return riquadro;
+}
+
+QGroupBox* ZFattureFinestra::fa_filtri() {
+  auto* riquadro = Riquadro_Titolato(QStringLiteral("Clienti"));
+  auto* colonna = new QVBoxLayout(riquadro);
+  colonna->addWidget(fa_casella(QStringLiteral("Check2"), zfatture_.Check2,
+                                [this] { CambiaFiltro(programma_, zfatture_, false); }));
+  colonna->addWidget(fa_casella(QStringLiteral("Check3"), zfatture_.Check3,
+                                [this] { CambiaFiltro(programma_, zfatture_, true); }));
+  colonna->addWidget(fa_scritta(QStringLiteral("Esclusi"), zfatture_.Esclusi));
+  return riquadro;
+}
+
+QWidget* ZFattureFinestra::fa_casella(const QString& nome, Spunta& stato, Legame::Evento evento) {
+  const QString didascalia = In_QString(stato.didascalia);
+  auto* casella = new QCheckBox(didascalia);
+  casella->setFont(Carattere(punti_normali));
+  casella->setAccessibleName(didascalia);
+  legame.lega(casella, nome, stato, std::move(evento));
+  return casella;
+}
+
+QLabel* ZFattureFinestra::fa_scritta(const QString& nome, Scritta& stato) {
+  auto* scritta = new QLabel;
+  scritta->setFont(Carattere(punti_normali));
+  legame.lega(scritta, nome, stato);
+  return scritta;
+}
+
+QLineEdit* ZFattureFinestra::fa_campo(const QString& nome, CampoTesto& stato, const Scritta& didascalia) {
+  auto* campo = new CasellaTesto;
+  campo->setFont(Carattere(punti_normali));
+  campo->setAccessibleName(In_QString(didascalia.testo));
+  campo->setMinimumWidth(campo->fontMetrics().averageCharWidth() * 24);
+  legame.lega(campo, nome, stato);
+  return campo;
+}
+
+QPushButton* ZFattureFinestra::fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento) {
+  QPushButton* bottone = Fa_Bottone(stato);
+  legame.lega(bottone, nome, stato, std::move(evento));
+  return bottone;
+}
+
+void ZFattureFinestra::stampa(TipoFattura tipo) {
+  const Elenco& lista = tipo == TipoFattura::Fattura ? zfatture_.MList2 : zfatture_.ListNA;
+  legame.esegui([&] { DoppioClic(programma_, zfatture_, tipo, lista.scelta); });
+}
+
+void ZFattureFinestra::mostra() {
+  Finestra::mostra();
+  const QString titolo = In_QString(zfatture_.titolo);
+  if (windowTitle() != titolo) setWindowTitle(titolo);
+  if (!zfatture_.chiusa || in_chiusura_) return;
+  in_chiusura_ = true;
+  QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+}
+
+// In a list Enter does what a double click does, and who comes to it has its document in the fields.
+bool ZFattureFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
+  if (oggetto != fatture_ && oggetto != note_) return Finestra::eventFilter(oggetto, evento);
+  const TipoFattura tipo = oggetto == fatture_ ? TipoFattura::Fattura : TipoFattura::Nota;
+  if (evento->type() == QEvent::KeyPress) {
+    const Pressione pressione = Da_QKeyEvent(static_cast<QKeyEvent&>(*evento));
+    if (pressione.tasto != Tasto::Invio || !pressione.Nudo()) return false;
+    stampa(tipo);
+    return true;
+  }
+  if (evento->type() == QEvent::FocusIn && !legame.in_evento() && !legame.in_mostra()) {
+    const Elenco& lista = tipo == TipoFattura::Fattura ? zfatture_.MList2 : zfatture_.ListNA;
+    if (static_cast<QFocusEvent&>(*evento).reason() == Qt::TabFocusReason ||
+        static_cast<QFocusEvent&>(*evento).reason() == Qt::BacktabFocusReason)
+      legame.esegui([&] { SceltaDocumento(programma_, zfatture_, tipo, lista.scelta); });
+  }
+  return false;
+}
+
+void ZFattureFinestra::keyPressEvent(QKeyEvent* evento) {
+  const Pressione pressione = Da_QKeyEvent(*evento);
+  if (pressione.tasto == Tasto::Esc && pressione.Nudo())
+    legame.esegui([this] { ChiudiFatture(programma_, zfatture_); });
+  else
+    Finestra::keyPressEvent(evento);
+}
+
+void ZFattureFinestra::closeEvent(QCloseEvent* evento) {
+  if (!zfatture_.chiusa) {
+    in_chiusura_ = true;
+    if (!occupata()) legame.esegui([this] { ChiudiFatture(programma_, zfatture_); });
+    in_chiusura_ = zfatture_.chiusa;
+  }
+  if (zfatture_.chiusa)
+    Finestra::closeEvent(evento);
+  else
+    evento->ignore();
+}

@@ -1,0 +1,291 @@
+#include "primanota/znota.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/numeri.h"
+#include "primanota/esporta.h"
+#include "primanota/nota.h"
+#include "primanota/stampa_nota.h"
+#include "printing/pagina.h"
+
+namespace {
+
+constexpr Vista tutto = "TUTTO";
+constexpr Vista in_stampa = "Prima Nota in stampa : ";
+
+// A command runs or asks: keys and clicks that come meanwhile do nothing.
+class Fermo {
+ public:
+  Fermo(const Programma& programma, Znota& znota)
+      : programma_(programma), znota_(znota), era_attiva_(std::exchange(znota.attiva, false)) {
+    AggiornaComandi(programma_, znota_);
+  }
+  ~Fermo() {
+    znota_.attiva = era_attiva_;
+    AggiornaComandi(programma_, znota_);
+  }
+  Fermo(const Fermo&) = delete;
+  Fermo& operator=(const Fermo&) = delete;
+
+ private:
+  const Programma& programma_;
+  Znota& znota_;
+  bool era_attiva_;
+};
+
+class Puntatore_Occupato {
+ public:
+  explicit Puntatore_Occupato(Piattaforma& piattaforma) : piattaforma_(piattaforma) {
+    piattaforma_.Occupato(true);
+  }
+  ~Puntatore_Occupato() { piattaforma_.Occupato(false); }
+  Puntatore_Occupato(const Puntatore_Occupato&) = delete;
+  Puntatore_Occupato& operator=(const Puntatore_Occupato&) = delete;
+
+ private:
+  Piattaforma& piattaforma_;
+};
+
+Testo Titolo(const Programma& programma, const Znota& znota) {
+  return "Stampa Prima Nota del " + programma.Data_Giorno +
+         (znota.Ordina_Specie.segnata ? " Ordinata per Specie" : " Ordinata per Immissione");
+}
+
+void Mostra_Avanzamento(const Programma& programma, Znota& znota, Vista testo) {
+  znota.titolo = testo;
+  programma.piattaforma.Ridipingi();
+}
+
+void Prepara_Controlli(const Programma& programma, Znota& znota) {
+  const Preferenze& preferenze = programma.preferenze;
+  znota.Text1[1].attivo = false;
+  znota.Destinatario.testo = "La Prima Nota deve essere inviata a\na chi le redige fatture";
+  znota.Copie.Riempi(Voci_Copie());
+  znota.Copie.scelta = 0;
+  znota.Tutte_Le_Note.didascalia = "Stampa Tutte le Note (F4)";
+  znota.Unico_Documento.didascalia = "Stampa Tutte in un unico documento";
+  znota.Unico_Documento.suggerimento = "utile per fare un unico documento pdf";
+  znota.Scrivi_Totale.didascalia = "Scrivi ImportoTotale";
+  znota.Ordina_Specie.didascalia = "Ordina per Specie (altrimenti per immissione)";
+  znota.Limita_Zona.didascalia = "Limita la Zona di pesca A ai primi 5 caratteri (6 per Mediterraneo)";
+  znota.Tante_NA.didascalia = "Tante NA";
+  znota.Tante_NA.suggerimento = "se ci sono tante note di accredito...";
+  znota.Tutte_Le_Note.segnata = preferenze.FlagC1pn;
+  znota.Unico_Documento.segnata = preferenze.FlagC2pn;
+  znota.Scrivi_Totale.segnata = preferenze.FlagC4pn;
+  znota.Ordina_Specie.segnata = preferenze.FlagOrdina1;
+  znota.Limita_Zona.segnata = preferenze.FlagZ5;
+  znota.Stampa_Nota.testo = "Stampa Nota (F2)";
+  znota.Esporta_Nota.testo = "F6 - Esport Prima Nota con codici FAO";
+  znota.Chiudi.testo = "&Chiudi";
+  znota.Scelta_Stampante.testo = "Stampante";
+  znota.Aiuto_Esportazione.testo = "Help";
+}
+
+void Riempi_Esclusi(const Programma& programma, Znota& znota) {
+  znota.esclusi = ClientiEsclusi(programma);
+  znota.MenuEsclusi.testo = "Esclusi=" + std::to_string(znota.esclusi.size());
+  znota.Caption_ListaEsclusi.testo = "Lista Clienti Esclusi";
+  std::vector<Testo> righe;
+  for (const Cliente_Lasciato& escluso : znota.esclusi) righe.push_back(escluso.Codice + "  " + escluso.Nome);
+  znota.ListaEsclusi.Riempi(std::move(righe));
+  znota.ListaEsclusi.visibile = znota.Caption_ListaEsclusi.visibile = false;
+  for (const Cliente_Lasciato& escluso : znota.esclusi)
+    programma.piattaforma.Messaggio(escluso.Nome + " è escluso"_t);
+}
+
+void Riempi_Note(const Programma& programma, Znota& znota) {
+  znota.note = NoteDelGiorno(RigheDelGiorno(programma.Vet_Tabella), programma.preferenze.FlagC3pn);
+  std::vector<Testo> righe;
+  righe.reserve(znota.note.size());
+  for (const Nota& nota : znota.note) righe.push_back(VoceNota(nota));
+  znota.ListaNote.Riempi(std::move(righe));
+  znota.ListaNote.scelta = -1;
+}
+
+// The note of the selected line; null without one.
+const Nota* Nota_Scelta(const Znota& znota) {
+  const int scelta = znota.ListaNote.scelta;
+  if (scelta < 0 || scelta >= static_cast<int>(znota.note.size())) return nullptr;
+  return &znota.note[static_cast<std::size_t>(scelta)];
+}
+
+int Numero_Copie(const Programma& programma, const Znota& znota) {
+  return std::max(1, Intero(Sinistra(znota.Copie.Scelta(), 1), programma.Separatore_Decimale));
+}
+
+// The day without the customers that are left out; each of whom there was a row is told.
+void Prepara_Righe(const Programma& programma, Znota& znota) {
+  std::vector<Cliente_Lasciato> trovati;
+  znota.Vet_Nota = SenzaEsclusi(RigheDelGiorno(programma.Vet_Tabella), znota.esclusi, &trovati);
+  for (const Cliente_Lasciato& escluso : trovati) programma.piattaforma.Messaggio("trovato " + escluso.Nome);
+}
+
+void Stampa_Tutto(Programma& programma, Znota& znota) {
+  znota.Text1[1].testo = "Tutto...";
+  OrdinaNota(znota.Vet_Nota, znota.Ordina_Specie.segnata);
+  for (int copia = Numero_Copie(programma, znota); copia > 0; --copia)
+    StampaNota(programma, znota, znota.Vet_Nota, tutto);
+}
+
+void Stampa_Nota_Selezionata(Programma& programma, Znota& znota) {
+  const Nota* nota = Nota_Scelta(znota);
+  if (nota == nullptr) return;
+  Mostra_Avanzamento(programma, znota, "Eleborazione in corso ... ");
+  std::vector<LedgerRow> righe = RigheDellaNota(znota.Vet_Nota, *nota, programma.preferenze.FlagC3pn);
+  OrdinaNota(righe, znota.Ordina_Specie.segnata);
+  StampaNota(programma, znota, righe, "");
+}
+
+void Stampa_Tutte(Programma& programma, Znota& znota) {
+  for (int copia = Numero_Copie(programma, znota); copia > 0; --copia) {
+    for (std::size_t i = 0; i < znota.note.size(); ++i) {
+      znota.ListaNote.scelta = static_cast<int>(i);
+      SceltaNota(znota);
+      Stampa_Nota_Selezionata(programma, znota);
+    }
+  }
+}
+
+void Stampa_Scelta(Programma& programma, Znota& znota) {
+  if (Nota_Scelta(znota) == nullptr) {
+    programma.piattaforma.Messaggio("Scegliere un cliente sulla lista e ridare il comando");
+    return;
+  }
+  for (int copia = Numero_Copie(programma, znota); copia > 0; --copia)
+    Stampa_Nota_Selezionata(programma, znota);
+}
+
+}  // namespace
+
+void ApriNote(Programma& programma, Znota& znota) {
+  Prepara_Controlli(programma, znota);
+  Riempi_Esclusi(programma, znota);
+  Riempi_Note(programma, znota);
+  znota.titolo = Titolo(programma, znota);
+  SceltaNota(znota);
+  AggiornaComandi(programma, znota);
+}
+
+void AggiornaComandi(const Programma& programma, Znota& znota) {
+  Controllo* const comandi[] = {&znota.ListaNote,
+                                &znota.Copie,
+                                &znota.Tutte_Le_Note,
+                                &znota.Unico_Documento,
+                                &znota.Scrivi_Totale,
+                                &znota.Ordina_Specie,
+                                &znota.Limita_Zona,
+                                &znota.Tante_NA,
+                                &znota.Stampa_Nota,
+                                &znota.Esporta_Nota,
+                                &znota.Chiudi,
+                                &znota.MenuEsclusi,
+                                &znota.ListaEsclusi,
+                                &znota.Scelta_Stampante,
+                                &znota.Aiuto_Esportazione};
+  for (Controllo* comando : comandi) comando->attivo = znota.attiva;
+  TitoloStampante(Dispositivo(programma), znota.Stampante);
+}
+
+void SceltaNota(Znota& znota) { znota.Text1[1].testo = Testo(in_stampa) + znota.ListaNote.Scelta(); }
+
+void CambiaOrdine(const Programma& programma, Znota& znota) {
+  if (znota.attiva) znota.titolo = Titolo(programma, znota);
+}
+
+void MostraEsclusi(const Programma& programma, Znota& znota) {
+  if (!znota.attiva) return;
+  if (znota.esclusi.empty()) {
+    programma.piattaforma.Messaggio("nessun cliente escluso...", Icona::Informazione);
+    return;
+  }
+  znota.ListaEsclusi.visibile = znota.Caption_ListaEsclusi.visibile = !znota.ListaEsclusi.visibile;
+}
+
+void MostraAiutoEsportazione(const Programma& programma, Znota& znota) {
+  if (!znota.attiva) return;
+  programma.piattaforma.Messaggio(AiutoEsportazione(programma), Icona::Informazione);
+}
+
+bool TastoNote(Programma& programma, Znota& znota, const Pressione& pressione) {
+  if (!pressione.Nudo()) return false;
+  switch (pressione.tasto) {
+    case Tasto::F2:
+      StampaNote(programma, znota);
+      return true;
+    case Tasto::F4:
+      if (znota.attiva) znota.Tutte_Le_Note.segnata = !znota.Tutte_Le_Note.segnata;
+      return true;
+    case Tasto::F6:
+      Esporta(programma, znota);
+      return true;
+    case Tasto::Esc:
+      ChiudiNote(programma, znota);
+      return true;
+    default:
+      return false;
+  }
+}
+
+void StampaNote(Programma& programma, Znota& znota) {
+  if (!znota.attiva) return;
+  {
+    const Fermo fermo(programma, znota);
+    const Puntatore_Occupato occupato(programma.piattaforma);
+    Prepara_Righe(programma, znota);
+    if (znota.Unico_Documento.segnata)
+      Stampa_Tutto(programma, znota);
+    else if (znota.Tutte_Le_Note.segnata)
+      Stampa_Tutte(programma, znota);
+    else
+      Stampa_Scelta(programma, znota);
+    znota.Vet_Nota.clear();
+  }
+  SceltaNota(znota);
+  znota.titolo = Titolo(programma, znota);
+}
+
+void StampaNota(Programma& programma, Znota& znota, const std::vector<LedgerRow>& righe, Vista chiave) {
+  if (righe.empty()) {
+    programma.piattaforma.Messaggio("Nessuna trovata ...");
+    return;
+  }
+  const bool di_tutto = chiave == tutto;
+  const Nota* nota = di_tutto ? nullptr : Nota_Scelta(znota);
+  const Modo_Nota modo{di_tutto, znota.Tante_NA.segnata, znota.Scrivi_Totale.segnata};
+  Mostra_Avanzamento(programma, znota, "Calcolo Importo Totale della nota ...");
+  Documento documento{programma.Data_AAAAMMGG, "Prima Nota", "", ""};
+  if (nota != nullptr) {
+    documento.numero = nota->Prov.substr(0, nota->Prov.find(' '));
+    documento.codice = nota->Fornitore;
+  }
+  Dispositivo(programma).documento = std::move(documento);
+  const Foglio_Nota foglio = PreparaFoglioNota(programma);
+  DisegnaNota(programma, ComponiNota(programma, righe, nota, modo, foglio), foglio, znota.titolo);
+}
+
+void Esporta(Programma& programma, Znota& znota) {
+  if (!znota.attiva) return;
+  const Fermo fermo(programma, znota);
+  EsportaPrimaNota(programma, znota.Limita_Zona.segnata, znota.scegli_drive);
+}
+
+void EsportaSulDisco(Programma& programma, Znota& znota) {
+  if (!znota.attiva) return;
+  const Fermo fermo(programma, znota);
+  EsportaPrimaNota(programma, znota.Limita_Zona.segnata, {});
+}
+
+void ChiudiNote(Programma& programma, Znota& znota) {
+  if (!znota.attiva) return;
+  Preferenze& preferenze = programma.preferenze;
+  preferenze.FlagC1pn = znota.Tutte_Le_Note.segnata;
+  preferenze.FlagC2pn = znota.Unico_Documento.segnata;
+  preferenze.FlagC4pn = znota.Scrivi_Totale.segnata;
+  preferenze.FlagOrdina1 = znota.Ordina_Specie.segnata;
+  preferenze.FlagZ5 = znota.Limita_Zona.segnata;
+  // a settings file that can't be written costs the operator his ticks at the next start, not the closing
+  Scrivi_Preferenze(programma, {"FlagC1pn", "FlagC2pn", "FlagC4pn", "FlagOrdina1", "FlagZ5"});
+  znota.chiusa = true;
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "start/inizio.h"
+#include "transfers/xdisk.h"
+
+// Command7: the data of the day chosen on the start screen go to a stick or come from it, into a folder of
+// the year on both. `dalla_chiavetta`: the right button, from the stick. The copy is flushed to the disk and
+// compared with what was copied before it is called done, so that the stick can be pulled at once. Whatever
+// fails is told and leaves the target as it was.
+void CopiaGiorno(Programma& programma, const B_Inizio& inizio, bool dalla_chiavetta,
+                 const Scelta_Drive& scelta_drive);

@@ -1,0 +1,40 @@
+#include "stats/screens/rxcli_finestra.h"
+
+#include <QBoxLayout>
+#include <QListView>
+
+namespace {
+
+constexpr int caratteri_clienti = 26, caratteri_totali = 72;
+
+}  // namespace
+
+RXcliFinestra::RXcliFinestra(Programma& programma, Vista cliente, const Chi_Chiede_File& chi_chiede,
+                             QWidget* padre)
+    : FinestraStatistica(QStringLiteral("RXcli"), programma, rxcli_.titolo, rxcli_.grafico, padre),
+      programma_(programma) {
+  if (chi_chiede) rxcli_.scegli_file = chi_chiede(this);
+  Apri_RXcli(programma_, rxcli_, cliente);
+  fa_menu();
+  disponi(fa_liste());
+  mostra();
+}
+
+void RXcliFinestra::fa_menu() {
+  voce("Stampa", rxcli_.Stampa, [this] { Stampa_Clienti(programma_, rxcli_); });
+  voce("Salva", rxcli_.Salva, [this] { Salva_Totali(programma_, rxcli_); });
+  voce("StampaGrafico", rxcli_.StampaGrafico, [this] { Stampa_Barre(programma_, rxcli_); });
+  interruttore("SoloPeso", rxcli_.SoloPeso);
+  voce("Chiudi", rxcli_.Chiudi, [this] { chiudi_dopo(); });
+}
+
+QBoxLayout* RXcliFinestra::fa_liste() {
+  QListView* clienti = fa_lista("ListaClienti", "Clienti", rxcli_.ListaClienti, caratteri_clienti,
+                                [this] { Scelto_Cliente(rxcli_); });
+  clienti->setMaximumWidth(clienti->minimumWidth() * 3 / 2);
+  clienti->setFocus(Qt::OtherFocusReason);
+  auto* riga = new QHBoxLayout;
+  riga->addWidget(clienti, 1);
+  riga->addWidget(fa_lista("ListaTotali", "Totali per cliente", rxcli_.ListaTotali, caratteri_totali), 3);
+  return riga;
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstdint>
+
+#include "core/riga.h"
+
+// What all statistics share: which rows are sales, and sums that lose no cent.
+
+// The row stands for nothing sold: the marker of a day without rows, or no supplier, species, weight or
+// price.
+bool Senza_Vendita(const LedgerRow& riga);
+
+// Adds amounts as a person would with pencil and paper: those of at most six decimals (a weight and a price
+// of three each) exactly, whatever their number and order. Others go by the machine's floating point.
+class Somma_Esatta {
+ public:
+  void Aggiungi(double valore);
+  void Aggiungi_Prodotto(double a, double b);
+  void Aggiungi(const Somma_Esatta& altra);
+  double Valore() const;
+
+ private:
+  void Aggiungi_Milionesimi(std::int64_t milionesimi);
+
+  std::int64_t milionesimi_ = 0;
+  double resto_ = 0;
+};
