@@ -199,6 +199,21 @@ bool Apri(Programma& programma, B_Inizio& inizio) {
 
 }  // namespace
 
+namespace {
+
+Percorso Cartella_Dell_Anno(const Programma& programma, const B_Inizio& inizio) {
+  return Unisci_Percorso(programma.Cartella_Dati, std::to_string(Leggi_Intero(programma, inizio.Text3)));
+}
+
+void Riempi_File1(const Programma& programma, B_Inizio& inizio) {
+  std::vector<Testo> nomi;
+  for (const Percorso& nome : programma.disco.Elenca(Cartella_Dell_Anno(programma, inizio), "*.txt"))
+    nomi.push_back(Testo_Percorso(nome));
+  inizio.File1.Riempi(std::move(nomi));
+}
+
+}  // namespace
+
 void Carica_Inizio(Programma& programma, B_Inizio& inizio) {
   inizio.Text1.testo = Due_Cifre(programma.Oggi.giorno);
   inizio.Combo1.Riempi({"Gennaio", "Febbraio", "Marzo", "Aprile", "Maggio", "Giugno", "Luglio", "Agosto",
@@ -215,6 +230,7 @@ void Carica_Inizio(Programma& programma, B_Inizio& inizio) {
   inizio.Text5.testo = std::to_string(programma.Ultima_Fattura);
   inizio.Text6.testo = std::to_string(programma.Ultimo_DDT);
   inizio.numeri_mostrati = Numeri(programma);
+  Riempi_File1(programma, inizio);
   Leggi_Esclusi(programma);
 }
 
@@ -224,6 +240,12 @@ void Ritorna_Inizio(Programma& programma, B_Inizio& inizio) {
   for (std::size_t i = 0; i < adesso.size(); ++i)
     if (adesso[i] != inizio.numeri_mostrati[i]) campi[i]->testo = std::to_string(adesso[i]);
   inizio.numeri_mostrati = adesso;
+  Riempi_File1(programma, inizio);
+}
+
+void MostraFile1(Programma& programma, const B_Inizio& inizio) {
+  const Testo nome = inizio.File1.Scelta();
+  if (!nome.empty()) ApriFoglioDati(programma, Unisci_Percorso(Cartella_Dell_Anno(programma, inizio), nome));
 }
 
 void Cambia_Data(Programma& programma, B_Inizio& inizio) {

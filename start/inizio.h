@@ -39,6 +39,8 @@ void Giorno_Giu(Programma& programma, B_Inizio& inizio);   // Command12
 // back from an old copy must not issue numbers twice. Raises Ultimo_DDT and Ultima_Fattura; returns the last
 // account number for Text2, "0" where the year has no day.
 Testo Trova_Ultimi_Numeri(Programma& programma, Vista anno);
+// A double click in File1: the sibling that shows a day file opens the selected one.
+void MostraFile1(Programma& programma, const B_Inizio& inizio);
 // Opens the chosen day: lists read, day loaded, Edita_Aperta set. False: refused and told, the screen stays.
 bool Apri_Giorno(Programma& programma, B_Inizio& inizio);
 bool TastoInizio(Programma& programma, B_Inizio& inizio, const Pressione& pressione);  // Shift+F1, Shift+F2

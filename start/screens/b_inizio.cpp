@@ -12,8 +12,10 @@
 #include "platform/aspetto.h"
 #include "platform/tasti_qt.h"
 #include "platform/testo_qt.h"
+#include "start/copia_giorno.h"
 #include "start/screens/quadro.h"
 #include "start/strumenti.h"
+#include "transfers/screens/xdisk_finestra.h"
 
 namespace {
 
@@ -61,8 +63,11 @@ B_InizioFinestra::B_InizioFinestra(Programma& programma, QWidget* padre)
   tutto->addLayout(colonna);
   tutto->addLayout(destra, 1);
 
+  copia_->installEventFilter(this);
   auto* file1 = new QListView(this);
   legame.lega(file1, QStringLiteral("File1"), inizio_.File1);
+  connect(file1, &QListView::doubleClicked, this,
+          [this] { legame.esegui([this] { MostraFile1(programma_, inizio_); }); });
   mostra();
 }
 
@@ -175,7 +180,7 @@ QWidget* B_InizioFinestra::fa_strumenti() {
   const auto strumento = [this](const char* nome) {
     return [this, nome] { UsaStrumento(programma_, nome); };
   };
-  const std::vector<Voce> voci = {{"Command7", inizio_.Command7, {}},
+  const std::vector<Voce> voci = {{"Command7", inizio_.Command7, [this] { copia(false); }},
                                   {"Command10", inizio_.Command10, [this] { GestioneListe(programma_); }},
                                   {"Command6", inizio_.Command6, strumento("Command6")},
                                   {"Command8", inizio_.Command8, strumento("Command8")},
@@ -193,6 +198,7 @@ QWidget* B_InizioFinestra::fa_strumenti() {
     auto* bottone = new QPushButton;
     legame.lega(bottone, QString::fromLatin1(voce.nome), voce.stato, voce.evento);
     bottone->setMinimumHeight(bottone->fontMetrics().height() * 2);
+    if (&voce.stato == &inizio_.Command7) copia_ = bottone;
     if (!voce.stato.visibile) {
       bottone->setParent(riquadro);
       continue;
@@ -201,6 +207,18 @@ QWidget* B_InizioFinestra::fa_strumenti() {
     ++posto;
   }
   return riquadro;
+}
+
+// Its right button copies the other way; the menu key does the same from the keyboard.
+bool B_InizioFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
+  if (oggetto != copia_ || evento->type() != QEvent::ContextMenu)
+    return Finestra::eventFilter(oggetto, evento);
+  legame.esegui([this] { copia(true); });
+  return true;
+}
+
+void B_InizioFinestra::copia(bool dalla_chiavetta) {
+  CopiaGiorno(programma_, inizio_, dalla_chiavetta, Chiedi_Drive(programma_, this));
 }
 
 QWidget* B_InizioFinestra::fa_ditta() {

@@ -23,6 +23,7 @@ class B_InizioFinestra : public Finestra {
 
  protected:
   void keyPressEvent(QKeyEvent* evento) override;
+  bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
  private:
   QWidget* fa_data();
@@ -32,9 +33,11 @@ class B_InizioFinestra : public Finestra {
   QWidget* fa_ditta();
   QLabel* scritta(const QString& nome, Scritta& stato);
   void continua();
+  void copia(bool dalla_chiavetta);
 
   Programma& programma_;
   B_Inizio inizio_;
   Quadro* quadro_;
   CasellaTesto* giorno_ = nullptr;
+  QWidget* copia_ = nullptr;  // Command7
 };

@@ -185,6 +185,21 @@ TEST_F(Inizio, I_comandi_degli_strumenti) {
   EXPECT_TRUE(inizio.Text2.attivo);
 }
 
+TEST_F(Inizio, File1_tiene_i_giorni_dell_anno_e_ne_apre_uno) {
+  Scrivi("2025/20250312.txt", "x");
+  Scrivi("2025/20250313.txt", "x");
+  Scrivi("FoglioDati", "x");
+  Carica();
+  ASSERT_EQ(inizio.File1.Numero(), 2U);
+  MostraFile1(programma, inizio);
+  EXPECT_TRUE(macchina.programmi.empty());
+  inizio.File1.scelta = 1;
+  EXPECT_EQ(inizio.File1.Scelta(), "20250313.txt");
+  MostraFile1(programma, inizio);
+  EXPECT_EQ(macchina.programmi, std::vector<Testo>{"FoglioDati"});
+  EXPECT_FALSE(macchina.terminata);
+}
+
 TEST_F(Inizio, Solo_quattro_ditte_hanno_il_file_dat) {
   const std::vector<Profilo> con_dat = {Profilo::Zenival, Profilo::Marvesi, Profilo::Sarvena,
                                         Profilo::Dolvena};

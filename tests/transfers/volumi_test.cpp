@@ -39,8 +39,8 @@ TEST(Volumi, SulVolumeONo) {
   const std::vector<Volume> volumi = {chiavetta, dentro};
   EXPECT_TRUE(Sul_Volume(volumi, "/media/anna/CHIAVETTA/a", "/media/anna/CHIAVETTA/"));
   EXPECT_FALSE(Sul_Volume(volumi, "/media/anna/CHIAVETTA/altra/a", "/media/anna/CHIAVETTA"));
-  EXPECT_FALSE(Sul_Volume(volumi, "/home/a", "/media/anna/CHIAVETTA"));
-  EXPECT_FALSE(Sul_Volume({}, "/home/a", "/media/anna/CHIAVETTA")) << "pulled out meanwhile";
+  EXPECT_FALSE(Sul_Volume(volumi, "/casa/a", "/media/anna/CHIAVETTA"));
+  EXPECT_FALSE(Sul_Volume({}, "/casa/a", "/media/anna/CHIAVETTA")) << "pulled out meanwhile";
 }
 
 struct Scrittura_Volume : Ditta_Di_Prova, testing::Test {
