@@ -9,7 +9,8 @@ namespace {
 
 using Tipo = Elemento_CV::Tipo;
 
-constexpr int inizio_tabella = 85, passo_riga = 5;
+constexpr int inizio_tabella = 85, passo_riga = 5, altezza_riga = 4;
+constexpr int larghezza_pagina = 200;
 constexpr int altezza_piede = 65, altezza_note = 54;  // of the foot from the end of the sheet; of its box
 
 // Lays down one page after the other.
@@ -78,6 +79,12 @@ class Composizione {
     cosa.grassetto = grassetto;
   }
 
+  // A text of any length that must not run into what stands beside it.
+  void Scrivi_In(int x, int y, int larghezza, Testo testo, bool grassetto = false) {
+    Scrivi(x, y, std::move(testo), 10, grassetto);
+    pagina_.back().larghezza = static_cast<float>(larghezza);
+  }
+
   // A position of the page's head, from the margins.
   int X(int x) const { return foglio_.sinistra + x; }
   int Y(int y) const { return foglio_.alto + y; }
@@ -102,12 +109,14 @@ class Composizione {
     }
   }
 
+  int Sinistra_Destinatario() const { return Semplice() ? 110 : 122; }
+
   void Destinatario() {
     const Testata_Fornitore& fornitore = documento_.fornitore;
-    const int x = X(Semplice() ? 110 : 122);
+    const int x = X(Sinistra_Destinatario());
     int y = Y(54);
     const auto riga = [&](const Testo& testo, bool grassetto = false) {
-      Scrivi(x, y, testo, 10, grassetto);
+      Scrivi_In(x, y, larghezza_pagina - Sinistra_Destinatario(), testo, grassetto);
       y += passo_riga;
     };
     riga(Semplice() ? "Spett.le" : Tipo2() ? "Spett.le Ditta " : "Spett.le Ditta");
@@ -135,7 +144,7 @@ class Composizione {
     int y = Y(44);
     const auto campo = [&](Vista didascalia, const Testo& valore) {
       Scrivi(X(5), y, Testo(didascalia));
-      Scrivi(X(5 + valori), y, valore, 10, true);
+      Scrivi_In(X(5 + valori), y, Sinistra_Destinatario() - 5 - valori - 1, valore, true);
       y += passo_riga;
     };
     campo("Num. Conto Vendita", documento_.conto.NCV);
@@ -167,13 +176,25 @@ class Composizione {
       x += colonna.larghezza;
     }
     if (Contorni()) Cornice();
-    int y = tabella_y_;
     for (std::size_t i = Prima_Riga(p); i < Dopo_Ultima(p); ++i) {
-      Riga(i, y += passo_riga);
+      const int y = Y_Riga(static_cast<int>(i - Prima_Riga(p)) + 1);
+      Riga(i, y);
       const bool altra = i + 1 < Dopo_Ultima(p) &&
                          documento_.importi.righe[i + 1].Descr != documento_.importi.righe[i].Descr;
-      if (altra && !Contorni()) Aggiungi(Tipo::Riga_Orizzontale, tabella_x_, y + 4, forma_.Larghezza());
+      if (altra && !Contorni())
+        Aggiungi(Tipo::Riga_Orizzontale, tabella_x_, y + altezza_riga, forma_.Larghezza());
     }
+  }
+
+  // A fixed number of lines stands closer where margin and sheet leave less room than it needs, so that the
+  // last one isn't printed over the foot.
+  int Y_Riga(int quale) const {
+    if (forma_.righe_fisse == 0) return tabella_y_ + quale * passo_riga;
+    const int spazio = (Tipo2() ? Y_Note(14) : Y_Passo(0)) - altezza_riga - tabella_y_;
+    // rounded up, so that the first one keeps off the headings
+    const int quota = (quale * spazio + forma_.righe_fisse - 1) / forma_.righe_fisse;
+    const int stretta = std::max(quale * altezza_riga, quota);
+    return tabella_y_ + std::min(quale * passo_riga, stretta);
   }
 
   void Cornice() {
@@ -192,7 +213,7 @@ class Composizione {
     for (const Colonna_CV& colonna : forma_.colonne) {
       Testo testo = Cella(colonna.campo, i);
       if (colonna.campo == Campo_CV::Descrizione || colonna.campo == Campo_CV::Nr)
-        Scrivi(x + 1, y, std::move(testo));
+        Scrivi_In(x + 1, y, colonna.larghezza - 2, std::move(testo));
       else
         Destra(x, y, colonna.larghezza - 1, std::move(testo));
       x += colonna.larghezza;
@@ -268,8 +289,9 @@ class Composizione {
 
   void Totali() {
     for (const Totale_CV& totale : TotaliCV(documento_, scelta_.tracciato, separatore_)) Totale(totale);
+    // with the line on the expenses, which stands nearly there, a line higher
     if (documento_.KgTotali)
-      Scrivi(tabella_x_ + 10, Y_Note(44),
+      Scrivi(tabella_x_ + 10, Y_Note(documento_.regole.FlagSarvena ? 39 : 44),
              "Kg. Totali = " + Formato(documento_.importi.KgTotali, "#0.00", separatore_));
     if (!documento_.NotaDDLL) return;
     Scrivi(tabella_x_ + 10, Y_Note(14), "Cessione Intercomunitaria non imponibile");

@@ -1,6 +1,7 @@
 #include "accounts/file_conto.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <iterator>
 
 #include "core/date.h"
@@ -60,7 +61,8 @@ int ScriviFileConto(const Disco& disco, const Percorso& cartella_anno, Vista nom
       disco.Sostituisci(Unisci_Percorso(Unisci_Percorso(cartella_anno, Cartella_No), nome), contenuto);
   if (errore != 0) return errore;
   const Percorso gemello = Unisci_Percorso(Unisci_Percorso(cartella_anno, Cartella_Si), nome);
-  return disco.Esiste_File(gemello) ? disco.Cancella(gemello) : 0;
+  const int rimasto = disco.Cancella(gemello);
+  return rimasto == ENOENT || rimasto == ENOTDIR ? 0 : rimasto;
 }
 
 std::optional<Testa_Conto> Leggi_Testa_Conto(const Disco& disco, const Percorso& file) {

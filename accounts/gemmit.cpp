@@ -179,11 +179,19 @@ void Elabora_E_Stampa(const Programma& programma, Zgemmit& zgemmit, std::size_t 
 }
 
 // Nobody is left out, whatever the question says.
+void Nascondi_Anteprima(const Programma& programma, Zgemmit& zgemmit) {
+  zgemmit.Anteprima.visibile = false;
+  zgemmit.titolo = Titolo_Apertura(programma);
+  zgemmit.fuoco = Zgemmit::fuoco_Lista;
+  AggiornaComandi(programma, zgemmit);
+}
+
 void Stampa_Tutti(const Programma& programma, Zgemmit& zgemmit) {
   if (zgemmit.Tabella_CV.empty() ||
       !programma.piattaforma.Domanda(
           "OK per stampare tutti i Conti Vendita\n(salta quelli con provvigione=0)"))
     return;
+  if (zgemmit.Anteprima.visibile) Nascondi_Anteprima(programma, zgemmit);
   for (std::size_t i = 0; i < zgemmit.Tabella_CV.size(); ++i) {
     zgemmit.ListaCV.scelta = static_cast<int>(i);
     Mostra_Conto(programma, zgemmit);
@@ -270,16 +278,11 @@ Esito Stampa_Scelto(Programma& programma, Zgemmit& zgemmit) {
 
 void Muovi(const Programma& programma, Zgemmit& zgemmit, int passo) {
   const int quanti = static_cast<int>(zgemmit.Tabella_CV.size());
-  if (!zgemmit.attiva || zgemmit.Anteprima.visibile || quanti == 0) return;
+  if (!zgemmit.attiva || quanti == 0) return;
+  // else F2 would print another account than the one in view
+  if (zgemmit.Anteprima.visibile && quanti > 1) Nascondi_Anteprima(programma, zgemmit);
   const int da = Uno_Scelto(zgemmit) ? zgemmit.ListaCV.scelta : (passo > 0 ? -1 : 0);
   SceltaConto(programma, zgemmit, (da + passo + quanti) % quanti);
-}
-
-void Nascondi_Anteprima(const Programma& programma, Zgemmit& zgemmit) {
-  zgemmit.Anteprima.visibile = false;
-  zgemmit.titolo = Titolo_Apertura(programma);
-  zgemmit.fuoco = Zgemmit::fuoco_Lista;
-  AggiornaComandi(programma, zgemmit);
 }
 
 }  // namespace
@@ -382,7 +385,7 @@ void MostraAnteprima(Programma& programma, Zgemmit& zgemmit) {
 }
 
 void StampaCV(Programma& programma, Zgemmit& zgemmit) {
-  if (!zgemmit.attiva || zgemmit.Anteprima.visibile) return;
+  if (!zgemmit.attiva) return;
   const Fermo fermo(programma, zgemmit);
   zgemmit.file_falliti.clear();
   Esito esito = Esito::Fatta;

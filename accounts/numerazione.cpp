@@ -13,10 +13,17 @@ bool Del_Fornitore(const LedgerRow& riga, Vista fornitore) {
   return Uguali(riga[CampoRiga::Fornitore], fornitore);
 }
 
-// The first account's save takes also the order and the dates of the opening; later ones without a change
-// have nothing to write.
-bool Salva_Numerazione(Programma& programma, Ricordo_CV& ricordo, int numero) {
-  return SalvaConti(programma, ricordo) && MettiUltimoCV(programma, numero);
+// The supplier's rows with the number that the account had before and the day's date; true when one changed.
+bool Rimetti_Numero(Programma& programma, const Conto_CV& conto) {
+  bool cambiata = false;
+  for (LedgerRow& riga : programma.Vet_Tabella.righe) {
+    if (!Del_Fornitore(riga, conto.Fornitore)) continue;
+    cambiata =
+        cambiata || riga[CampoRiga::NCV] != conto.NCV || riga[CampoRiga::DataCV] != programma.Data_Giorno;
+    riga[CampoRiga::NCV] = conto.NCV;
+    riga[CampoRiga::DataCV] = programma.Data_Giorno;
+  }
+  return cambiata;
 }
 
 }  // namespace
@@ -67,21 +74,15 @@ void PreparaLibro(Programma& programma) {
 }
 
 bool NumeraConti(Programma& programma, Tabella_Conti& conti, const std::function<void()>& numerato) {
-  bool primo = true;
+  bool da_salvare = true;  // the order and the dates of the opening
   for (Conto_CV& conto : conti) {
     const bool da_numerare = !Numerato(conto.NCV, programma.Separatore_Decimale);
-    if (!da_numerare && !std::exchange(primo, false)) continue;
-    primo = false;
+    if (!da_numerare && !da_salvare) continue;
     Ricordo_CV ricordo(programma.Vet_Tabella, conto.Fornitore);
-    if (da_numerare) {
-      for (LedgerRow& riga : programma.Vet_Tabella.righe) {
-        if (!Del_Fornitore(riga, conto.Fornitore)) continue;
-        riga[CampoRiga::NCV] = conto.NCV;
-        riga[CampoRiga::DataCV] = programma.Data_Giorno;
-      }
-    }
+    if (da_numerare && Rimetti_Numero(programma, conto)) da_salvare = true;
+    if (std::exchange(da_salvare, false) && !SalvaConti(programma, ricordo)) return false;
     const int numero = da_numerare ? ProssimoCV(programma) : programma.Ultimo_CV;
-    if (!Salva_Numerazione(programma, ricordo, numero)) return false;
+    if (!MettiUltimoCV(programma, numero)) return false;
     if (da_numerare) {
       conto.NCV = std::to_string(numero);
       conto.Data = programma.Data_Giorno;

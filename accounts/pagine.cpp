@@ -9,6 +9,24 @@ namespace {
 
 using Tipo = Elemento_CV::Tipo;
 
+constexpr float punti_minimi = 5, passo_punti = 0.5F;
+
+void Scrivi(Printer& printer, const Elemento_CV& cosa, Vista carattere) {
+  Vista testo = cosa.testo;
+  float punti = cosa.punti;
+  if (cosa.larghezza > 0) {
+    printer.FontName = carattere;
+    printer.FontBold = cosa.grassetto;
+    const auto esce = [&] {
+      printer.FontSize = punti;
+      return printer.TextWidth(testo) > cosa.larghezza;
+    };
+    while (punti > punti_minimi && esce()) punti -= passo_punti;
+    while (!testo.empty() && esce()) testo.remove_suffix(1);
+  }
+  StampaTesto(printer, cosa.x, cosa.y, testo, carattere, punti, cosa.grassetto);
+}
+
 void Disegna(Printer& printer, const Elemento_CV& cosa, Vista carattere_pagina) {
   switch (cosa.tipo) {
     case Tipo::Riga_Orizzontale:
@@ -23,8 +41,7 @@ void Disegna(Printer& printer, const Elemento_CV& cosa, Vista carattere_pagina) 
       break;
   }
   const Vista carattere = cosa.carattere.empty() ? carattere_pagina : Vista(cosa.carattere);
-  if (cosa.tipo == Tipo::Scritta)
-    return StampaTesto(printer, cosa.x, cosa.y, cosa.testo, carattere, cosa.punti, cosa.grassetto);
+  if (cosa.tipo == Tipo::Scritta) return Scrivi(printer, cosa, carattere);
   printer.FontName = carattere;
   printer.FontSize = cosa.punti;
   printer.FontBold = cosa.grassetto;

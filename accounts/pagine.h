@@ -53,7 +53,9 @@ struct Elemento_CV {
   enum class Tipo { Scritta, Destra, Riga_Orizzontale, Riga_Verticale, Riquadro };
   Tipo tipo = Tipo::Scritta;
   float x = 0, y = 0;
-  float larghezza = 0, altezza = 0;  // of a right-aligned text its column, of a line its length
+  // Of a right-aligned text its column, of a line its length. Another text with a width is set smaller, and
+  // at last cut, where it is wider; 0: it may be as wide as it is.
+  float larghezza = 0, altezza = 0;
   Testo testo;
   float punti = 10;
   bool grassetto = false;

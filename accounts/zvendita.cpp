@@ -146,6 +146,8 @@ void AggiornaComandi(Zvendita& zvendita) {
 
 void SceltaConto(Zvendita& zvendita, int riga) {
   if (riga < 0 || riga >= static_cast<int>(zvendita.Tabella_CV.size())) return;
+  // else F2 would print another account than the one in view
+  if (zvendita.Anteprima.visibile && riga != zvendita.ListaCV.scelta) Nascondi_Anteprima(zvendita);
   zvendita.ListaCV.scelta = riga;
   const Conto_CV& conto = zvendita.Tabella_CV[static_cast<std::size_t>(riga)];
   const Testo* valori[] = {&conto.NCV,    &conto.Data,   &conto.Fornitore,

@@ -8,7 +8,8 @@
 
 // velmara_bench_saldo FIRM: the command "Fornitore e Specie" over all days of FIRM/2025, as the screen runs
 // it, the temporary file included. The totals go to standard output, supplier, species, kilograms and amount
-// to the cent; milliseconds and the most memory that the program held, in megabytes, to standard error.
+// with all their decimals; milliseconds and the most memory that the program held, in megabytes, to standard
+// error.
 
 int main(int argc, char** argv) {
   if (argc < 2) {
@@ -43,6 +44,6 @@ int main(int argc, char** argv) {
   std::fprintf(stderr, "%.1f %.1f\n", std::chrono::duration<double, std::milli>(durata).count(),
                static_cast<double>(uso.ru_maxrss) / 1024);
   for (const Totale& totale : schermo.Vet_Temp1)
-    std::printf("%s\t%s\t%.2f\t%.2f\n", totale.Fornitore.c_str(), totale.Specie.c_str(), totale.kg.Valore(),
+    std::printf("%s\t%s\t%.3f\t%.6f\n", totale.Fornitore.c_str(), totale.Specie.c_str(), totale.kg.Valore(),
                 totale.importo.Valore());
 }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <charconv>
+#include <csignal>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -73,9 +75,12 @@ bool C_E(const Percorso& percorso) {
   return lstat(percorso.c_str(), &stato) == 0;
 }
 
-std::optional<struct stat> Stato(const Percorso& percorso) {
+// Nothing where there is no such file, or it can't be asked; `errore` then says why.
+std::optional<struct stat> Stato(const Percorso& percorso, int* errore = nullptr) {
   struct stat stato {};
-  if (stat(percorso.c_str(), &stato) != 0) return std::nullopt;
+  const bool c_e = stat(percorso.c_str(), &stato) == 0;
+  if (errore != nullptr) *errore = c_e ? 0 : errno;
+  if (!c_e) return std::nullopt;
   return stato;
 }
 
@@ -155,6 +160,9 @@ int Leggi_Tutto(int descrittore, Testo& contenuto) {
   return 0;
 }
 
+// No file of a firm comes near; what does is no text of ours, and would take all the memory.
+constexpr off_t dimensione_massima = off_t{1} << 30U;
+
 int Leggi_File(const Percorso& percorso, Testo& contenuto) {
   // Without O_NONBLOCK a pipe would keep the program waiting for a writer.
   const Descrittore file = Apri(percorso, O_RDONLY | O_NONBLOCK);
@@ -162,6 +170,7 @@ int Leggi_File(const Percorso& percorso, Testo& contenuto) {
   struct stat stato {};
   if (fstat(file.Numero(), &stato) != 0) return errno;
   if (const int errore = Errore_Di_Specie(stato.st_mode)) return errore;
+  if (stato.st_size > dimensione_massima) return EFBIG;
   contenuto.resize(static_cast<std::size_t>(stato.st_size) + 1);  // one more, so that the end shows at once
   return Leggi_Tutto(file.Numero(), contenuto);
 }
@@ -180,14 +189,20 @@ int Fissa_Cartella(const Percorso& cartella) {
   return errno;
 }
 
-// A file beside the target that takes the new content and goes away unless it is renamed over the target. Its
-// name is matched by no listing of days, copies or invoices.
+// Names of files beside their target that are matched by no listing of days, copies or invoices: with the
+// number of the process that writes there.
+constexpr Vista inizio_provvisorio = ".velmara-";
+constexpr char fine_provvisorio = '~';
+
+// A file beside the target that takes the new content, and whose name goes away: it is renamed over the
+// target, or changes places with it so that the old file can come back.
 class File_Provvisorio {
  public:
   explicit File_Provvisorio(const Percorso& cartella) {
     constexpr int tentativi = 1000;
     for (int i = 0; i < tentativi; ++i) {
-      percorso_ = cartella / (".velmara-" + std::to_string(getpid()) + "-" + std::to_string(i) + "~");
+      percorso_ = cartella / (Testo(inizio_provvisorio) + std::to_string(getpid()) + "-" + std::to_string(i) +
+                              fine_provvisorio);
       numero_ = open(percorso_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
       errore_ = Esito(numero_ < 0 ? -1 : 0);
       if (errore_ != EEXIST) return;
@@ -195,7 +210,7 @@ class File_Provvisorio {
   }
   ~File_Provvisorio() {
     if (numero_ >= 0) close(numero_);
-    if (errore_ == 0 && !al_posto_) unlink(percorso_.c_str());
+    if (errore_ == 0 && ha_nome_) unlink(percorso_.c_str());
   }
   File_Provvisorio(const File_Provvisorio&) = delete;
   File_Provvisorio& operator=(const File_Provvisorio&) = delete;
@@ -213,16 +228,29 @@ class File_Provvisorio {
     if (fsync(numero_) != 0) return errno;
     return Esito(close(std::exchange(numero_, -1)));
   }
-  int Metti_Al_Posto_Di(const Percorso& bersaglio) {
+  int Metti_Al_Posto_Di(const Percorso& bersaglio, bool c_e) {
+    scambiato_ = c_e && Scambia(bersaglio) == 0;
+    if (scambiato_) return 0;
     const int errore = Esito(rename(percorso_.c_str(), bersaglio.c_str()));
-    al_posto_ = errore == 0;
+    ha_nome_ = errore != 0;
     return errore;
+  }
+  // Undoes the last step: the old file comes back, or the name goes that wasn't there.
+  void Rimetti(const Percorso& bersaglio, bool c_era) const {
+    if (scambiato_)
+      Scambia(bersaglio);
+    else if (!c_era)
+      unlink(bersaglio.c_str());
   }
 
  private:
+  int Scambia(const Percorso& bersaglio) const {
+    return renameat2(AT_FDCWD, percorso_.c_str(), AT_FDCWD, bersaglio.c_str(), RENAME_EXCHANGE);
+  }
+
   Percorso percorso_;
   int numero_ = -1, errore_ = 0;
-  bool al_posto_ = false;
+  bool ha_nome_ = true, scambiato_ = false;
 };
 
 // Whether the file that stands there may be written over.
@@ -265,7 +293,10 @@ int Guasto(const Disco& disco, const Percorso& chiesto, const Percorso& trovato)
 
 int Sostituisci_File(const Percorso& bersaglio, Vista contenuto, const std::function<int()>& guasto) {
   if (const int errore = guasto()) return errore;
-  const auto stato = Stato(bersaglio);
+  int ignoto = 0;
+  const auto stato = Stato(bersaglio, &ignoto);
+  // A file that can't be asked may be there, and nothing is known of what it holds.
+  if (!stato && ignoto != ENOENT) return ignoto;
   if (stato) {
     if (const int errore = Errore_Di_Scrittura(bersaglio, *stato)) return errore;
     if (Gia_Uguale(bersaglio, *stato, contenuto)) return 0;
@@ -278,26 +309,24 @@ int Sostituisci_File(const Percorso& bersaglio, Vista contenuto, const std::func
       [&] { return stato ? nuovo.Come(*stato) : 0; },
       [&] { return nuovo.Scrivi(contenuto); },
       [&] { return nuovo.Fissa(); },
-      [&] { return nuovo.Metti_Al_Posto_Di(bersaglio); },
+      [&] { return nuovo.Metti_Al_Posto_Di(bersaglio, stato.has_value()); },
   };
   for (const auto& passo : passi) {
     if (const int errore = guasto()) return errore;
     if (const int errore = passo()) return errore;
   }
-  return Fissa_Cartella(cartella);
+  int errore = guasto();
+  if (errore == 0) errore = Fissa_Cartella(cartella);
+  if (errore != 0) nuovo.Rimetti(bersaglio, stato.has_value());
+  return errore;
 }
 
 int Aggiungi_In_Fondo(int descrittore, Vista contenuto) {
   struct stat stato {};
   if (fstat(descrittore, &stato) != 0) return errno;
   if (const int errore = Errore_Di_Specie(stato.st_mode)) return errore;
-  int errore = Scrivi_Tutto(descrittore, contenuto);
-  if (errore == 0) errore = Esito(fsync(descrittore));
-  if (errore == 0) return 0;
-  // Half a line would be read as a line: take back what was written. Should that fail too, the first error
-  // tells.
-  [[maybe_unused]] const int ripreso = ftruncate(descrittore, stato.st_size);
-  return errore;
+  if (const int errore = Scrivi_Tutto(descrittore, contenuto)) return errore;
+  return Esito(fsync(descrittore));
 }
 
 int Scrivi_Sopra(int descrittore, Vista contenuto) {
@@ -402,10 +431,32 @@ int Disco::Sostituisci(const Percorso& percorso, Vista contenuto) const {
   return Sostituisci_File(Bersaglio(trovato), contenuto, [&] { return Guasto(*this, percorso, trovato); });
 }
 
+int Disco::Scrivi_Nuovo(const Percorso& percorso, Vista contenuto) const {
+  const Percorso file = Cerca(Cartella_Di(percorso)) / percorso.filename();
+  if (C_E(file)) return EEXIST;
+  return Sostituisci_File(file, contenuto, [&] { return Guasto(*this, percorso, file); });
+}
+
 int Disco::Aggiungi(const Percorso& percorso, Vista contenuto) const {
+  constexpr std::size_t sostituito_fino_a = std::size_t{1} << 20U;
   const Percorso trovato = Cerca(percorso);
+  int ignoto = 0;
+  const auto prima = Stato(trovato, &ignoto);
+  if (!prima && ignoto != ENOENT) return ignoto;
+  const std::size_t lunghezza = prima ? static_cast<std::size_t>(prima->st_size) : 0;
+  if (lunghezza + contenuto.size() <= sostituito_fino_a) {
+    int errore = 0;
+    const auto presente = prima ? Leggi(trovato, &errore) : Testo();
+    return presente ? Sostituisci(percorso, *presente + Testo(contenuto)) : errore;
+  }
   if (const int errore = Guasto(*this, percorso, trovato)) return errore;
-  return Lavora_Su(trovato, O_APPEND, contenuto, Aggiungi_In_Fondo);
+  const int errore = Lavora_Su(trovato, O_APPEND, contenuto, Aggiungi_In_Fondo);
+  // Half a line would be read as a line: what was written is taken back. Should that fail too, the first
+  // error tells.
+  if (errore != 0 && !prima) unlink(trovato.c_str());
+  if (errore != 0 && prima && S_ISREG(prima->st_mode)) [[maybe_unused]]
+    const int ripreso = truncate(trovato.c_str(), prima->st_size);
+  return errore;
 }
 
 int Disco::Sovrascrivi(const Percorso& percorso, Vista contenuto) const {
@@ -435,8 +486,10 @@ int Disco::Rinomina(const Percorso& da, const Percorso& a) const {
   // The same file in another letter case isn't in its own way.
   if (C_E(presente) && (!Stesso_File(origine, presente) || meta == origine)) return EEXIST;
   if (const int errore = Rinomina_Nuovo(origine, meta)) return errore;
-  const int errore = Fissa_Cartella(Cartella_Di(meta));
-  return errore == 0 ? Fissa_Cartella(Cartella_Di(origine)) : errore;
+  int errore = Fissa_Cartella(Cartella_Di(meta));
+  if (errore == 0) errore = Fissa_Cartella(Cartella_Di(origine));
+  if (errore != 0) Rinomina_Nuovo(meta, origine);  // who was told of a failure finds the name of before
+  return errore;
 }
 
 int Disco::Crea_Cartella(const Percorso& percorso) const {
@@ -445,6 +498,18 @@ int Disco::Crea_Cartella(const Percorso& percorso) const {
   if (Esiste_Cartella(trovato)) return 0;
   if (const int errore = Guasto(*this, percorso, trovato)) return errore;
   return Crea_Con_Genitori(trovato);
+}
+
+void Disco::Togli_Provvisori(const Percorso& cartella) const {
+  const Testo modello = Testo(inizio_provvisorio) + "*" + fine_provvisorio;
+  const Percorso trovata = Cerca(cartella);
+  for (const Percorso& nome : Elenca(trovata, modello)) {
+    const char* cifre = nome.c_str() + inizio_provvisorio.size();
+    pid_t processo = 0;
+    const auto letto = std::from_chars(cifre, nome.c_str() + nome.native().size(), processo);
+    if (letto.ec != std::errc() || *letto.ptr != '-' || processo <= 0) continue;
+    if (kill(processo, 0) != 0 && errno == ESRCH) unlink((trovata / nome).c_str());
+  }
 }
 
 int Disco::Rendi_Eseguibile(const Percorso& percorso) const {
@@ -460,6 +525,13 @@ std::vector<Percorso> Disco::Elenca(const Percorso& cartella, Vista modello) con
     std::error_code illeggibile;
     return Corrisponde(nome, modello) && voce.is_regular_file(illeggibile);
   });
+}
+
+std::optional<fs::file_time_type> Disco::Cambiata(const Percorso& cartella) const {
+  std::error_code errore;
+  const fs::file_time_type quando = fs::last_write_time(Cerca(cartella), errore);
+  if (errore) return std::nullopt;
+  return quando;
 }
 
 std::vector<Percorso> Disco::Elenca_Cartelle(const Percorso& cartella) const {

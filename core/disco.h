@@ -29,25 +29,37 @@ class Disco {
   // Where the file or folder stands under another letter case of its last name; else the path as it is.
   Percorso Trova(const Percorso& percorso) const;
 
-  // The whole file, or nothing when it is missing, no regular file, or can't be read; `errore` then says why.
+  // The whole file, or nothing when it is missing, no regular file, larger than a gigabyte, or can't be read;
+  // `errore` then says why.
   std::optional<Testo> Leggi(const Percorso& percorso, int* errore = nullptr) const;
 
   // Replaces the whole file: a sibling temporary file, written, flushed to disk, renamed over the target, the
   // folder flushed. The file is at any moment the last good one or the new one. A file that already holds
   // exactly these bytes is left alone. Rights and links of an existing file are kept.
+  // After a failure, also one of the last step, the old file is there again where the file system can
+  // exchange two names.
   int Sostituisci(const Percorso& percorso, Vista contenuto) const;
-  int Aggiungi(const Percorso& percorso, Vista contenuto) const;  // append, made if missing
+  // The same for a file that isn't there: EEXIST, and nothing is changed, where something stands under
+  // exactly this name. Other letter cases of the name are not looked for.
+  int Scrivi_Nuovo(const Percorso& percorso, Vista contenuto) const;
+  // Appends, made if missing. Up to a megabyte in all the file is replaced as by Sostituisci; a larger one
+  // grows in place and is cut back when that fails.
+  int Aggiungi(const Percorso& percorso, Vista contenuto) const;
   // In place, so that the old bytes are gone from the disk; made if missing.
   int Sovrascrivi(const Percorso& percorso, Vista contenuto) const;
   int Copia(const Percorso& da, const Percorso& a) const;     // whole and atomic as Sostituisci
   int Cancella(const Percorso& percorso) const;               // a missing file is ENOENT
   int Rinomina(const Percorso& da, const Percorso& a) const;  // EEXIST when the target is there
   int Crea_Cartella(const Percorso& percorso) const;          // with every missing parent
-  int Rendi_Eseguibile(const Percorso& percorso) const;       // by those who may read it
+  // Removes what saves left behind whose program died under them.
+  void Togli_Provvisori(const Percorso& cartella) const;
+  int Rendi_Eseguibile(const Percorso& percorso) const;  // by those who may read it
 
   // Names (without the folder) of the files of a folder that match a pattern of '*' and '?' ignoring case,
   // sorted by name ignoring case.
   std::vector<Percorso> Elenca(const Percorso& cartella, Vista modello) const;
+  // When a name last came into a folder or left it; nothing where it can't be asked.
+  std::optional<std::filesystem::file_time_type> Cambiata(const Percorso& cartella) const;
   // Names of the folders in a folder, in the same order.
   std::vector<Percorso> Elenca_Cartelle(const Percorso& cartella) const;
 };

@@ -264,6 +264,7 @@ Testo Scrivi_Tabella(const Tabella& tabella) {
 }
 
 Tabella Leggi_Tabella(Vista contenuto, char separatore) {
+  contenuto = Senza_Marca(contenuto);
   Tabella tabella;
   tabella.righe.clear();
   tabella.righe.reserve(std::max<std::size_t>(Conta(contenuto, '\n'), 1) + 1);

@@ -379,8 +379,10 @@ struct Scrittura {
 
 using Chiavi = std::vector<std::pair<Testo, Testo>>;
 
-// A file that is there and can't be read is left alone: writing one key would lose all the others.
+// A file that is there and can't be read, or couldn't when the program started, is left alone: writing one
+// key would lose all the others, writing all would put defaults in the place of the firm's.
 bool Scrivi(Programma& programma, const Chiavi& chiavi) {
+  if (programma.Impostazioni_Ignote) return false;
   int errore = 0;
   const auto contenuto = programma.disco.Leggi(programma.File_Ini, &errore);
   if (!contenuto && errore != ENOENT) return false;
@@ -446,7 +448,13 @@ Preferenze Preferenze_Predefinite() {
 bool Posteggio_Valido(Vista testo) { return Valore(testo, PUNTO) > 0; }
 
 void Leggi_Preferenze(Programma& programma) {
-  const auto contenuto = programma.disco.Leggi(programma.File_Ini);
+  int errore = 0;
+  const auto contenuto = programma.disco.Leggi(programma.File_Ini, &errore);
+  programma.Impostazioni_Ignote = !contenuto && errore != ENOENT;
+  if (programma.Impostazioni_Ignote)
+    programma.piattaforma.Messaggio(
+        "Le impostazioni non si possono leggere: valgono quelle predefinite, e finché il programma non viene riavviato nulla le sostituisce\n"_t +
+        Testo_Percorso(programma.File_Ini) + "\n" + Testo_Errore(errore));
   const Valori_Ini letti = Leggi_Ini(contenuto.value_or(""), Sezione_Ini);
   programma.preferenze = {};
   Chiavi da_riscrivere;
@@ -464,6 +472,10 @@ void Leggi_Preferenze(Programma& programma) {
 
 bool Scrivi_Chiave(Programma& programma, Vista chiave, Vista valore) {
   return Scrivi(programma, {{Testo(chiave), Testo(valore)}});
+}
+
+bool Scrivi_Chiavi(Programma& programma, const std::vector<std::pair<Testo, Testo>>& chiavi) {
+  return Scrivi(programma, chiavi);
 }
 
 bool Scrivi_Preferenze(Programma& programma) {

@@ -121,13 +121,17 @@ bool Posteggio_Valido(Vista testo);
 // The six lines of the invoice footer that the program proposes; lines 2 to 4 end in a blank.
 std::span<const Testo, 6> Righe_Piede_Fattura();
 
-// Reads every key from programma.File_Ini. A missing or unreadable file gives all defaults. Text keys that
-// are written back get their default in the file at once. Asks for the stall number until there is one.
+// Reads every key from programma.File_Ini. A missing or unreadable file gives all defaults; an unreadable one
+// is told and not written until it was read (Impostazioni_Ignote). Text keys that are written back get their
+// default in the file at once. Asks for the stall number until there is one.
 void Leggi_Preferenze(Programma& programma);
 
 // Writes one key of the settings file at once; what else stands in the file (unknown keys, comments, order)
 // stays. False when the file couldn't be written.
 bool Scrivi_Chiave(Programma& programma, Vista chiave, Vista valore);
+
+// The same for several keys in one replacement of the file.
+bool Scrivi_Chiavi(Programma& programma, const std::vector<std::pair<Testo, Testo>>& chiavi);
 
 // Writes every known key from programma.preferenze in one replacement of the file. CittaVC is left to the
 // screens that own it, since it would override a town edited by hand.

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <vector>
 
 #include "core/date.h"
@@ -48,6 +49,11 @@ struct Programma {
   std::int32_t Ultimo_CV = 0, Ultimo_DDT = 0, Ultima_NA = 0, Ultima_Fattura = 0;
   bool Numeri_Da_Salvare = false;  // the last writing failed
   bool Numeri_Ignoti = false;      // the file is there and couldn't be read: it must not be replaced by zeros
+
+  // Files that are there and couldn't be read, with the errno: what the program holds in their stead must not
+  // replace them, not even when the disk has come back meanwhile.
+  bool Impostazioni_Ignote = false;
+  std::map<Testo, int> Liste_Ignote;
 
   // reference lists; columns in the order of their files
   TabellaLista<9> Vet_Clienti, Vet_Fornitori;

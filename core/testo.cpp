@@ -214,6 +214,12 @@ std::vector<Vista> Righe(Vista contenuto) {
   return righe;
 }
 
+Vista Senza_Marca(Vista contenuto) {
+  constexpr Vista marca = "\xEF\xBB\xBF";
+  if (contenuto.starts_with(marca)) contenuto.remove_prefix(marca.size());
+  return contenuto;
+}
+
 Testo Senza_Separatori(Vista testo) {
   Testo pulito;
   pulito.reserve(testo.size());

@@ -95,6 +95,10 @@ Testo Sostituisci_Tutti(Vista testo, Vista cosa, Vista con);
 // The views point into `contenuto`.
 std::vector<Vista> Righe(Vista contenuto);
 
+// The content without the UTF-8 mark that some editors put in front of a file, where it would hide the first
+// field.
+Vista Senza_Marca(Vista contenuto);
+
 // The text without TAB, CR, LF and NUL, which would split a field or a line of our files when read back.
 Testo Senza_Separatori(Vista testo);
 

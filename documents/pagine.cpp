@@ -248,7 +248,6 @@ Pagine_Documento PagineDocumento(const Documento_Cliente& documento, const Fogli
 bool StampaPagine(const Programma& programma, const Documento_Cliente& documento,
                   const Avanzamento& avanzamento) {
   Printer& printer = Dispositivo(programma);
-  if (!printer.DeviceName()) return false;
   printer.documento = {programma.Data_AAAAMMGG,
                        documento.tipo == TipoDoc::DDT ? "DDT" : "Documento Sanitario",
                        SenzaMarchi(documento.Numero), documento.destinatario.Codice};
@@ -264,6 +263,5 @@ bool StampaPagine(const Programma& programma, const Documento_Cliente& documento
     Disegna(programma, pagine[static_cast<std::size_t>(numero - 1)]);
     if (numero < quante) printer.NewPage();
   }
-  printer.EndDoc();
-  return true;
+  return printer.EndDoc();
 }

@@ -53,6 +53,7 @@ Pagine_Documento PagineDocumento(const Documento_Cliente& documento, const Fogli
 // Takes the progress text for the caption of the screen that prints, before each page.
 using Avanzamento = std::function<void(const Testo& titolo)>;
 
-// Draws the document as one print job. False without a printer: then nothing was drawn.
+// Draws the document as one print job. False where nothing came out (no printer, a full disk), which the
+// device has told.
 bool StampaPagine(const Programma& programma, const Documento_Cliente& documento,
                   const Avanzamento& avanzamento = {});

@@ -40,6 +40,19 @@ Documento_Cliente Esempio(const Programma& programma, const DimDDT& schermo) {
   return documento;
 }
 
+// Where StampaDueRighe puts the foot lines on a sheet of that height.
+void Aggiungi_Piede(const DimDDT& schermo, const Foglio_Documento& foglio, Pagina_Documento& pagina) {
+  constexpr float rientro = 5, sopra = 10, passo = 4;
+  auto y = static_cast<float>(foglio.altezza) - sopra;
+  for (const Vista chiave : {"PiedePaginaBolla1", "PiedePaginaBolla2"}) {
+    pagina.tabella.push_back({.allineamento = Allineamento::Sinistra,
+                              .x = static_cast<float>(foglio.da_destra) + rientro,
+                              .y = y,
+                              .testo = Scritto(schermo, chiave)});
+    y += passo;
+  }
+}
+
 // As StampaEllisse draws it: its centre stands to the left of the position in the settings.
 Ovale Bollo(int x, int y) {
   constexpr double spostamento = 19, raggio = 11, aspetto = 0.3;
@@ -62,6 +75,7 @@ std::optional<Schizzo_DDT> Schizzo(const Programma& programma, const DimDDT& sch
     return std::nullopt;
   Pagine_Documento pagine = PagineDocumento(Esempio(programma, schermo), schizzo.foglio, separatore);
   schizzo.pagina = std::move(pagine.front());
+  Aggiungi_Piede(schermo, schizzo.foglio, schizzo.pagina);
   if (programma.preferenze.FlagEllisse)
     schizzo.bollo = Bollo(Intero(Scritto(schermo, "ellisse_centrox"), separatore),
                           Intero(Scritto(schermo, "ellisse_centroy"), separatore));

@@ -163,3 +163,22 @@ void MostraAiuto(Programma& programma, Vista nome) {
     if (aiuto.nome == nome)
       return programma.piattaforma.Messaggio(aiuto.testo, Icona::Informazione, aiuto.voce);
 }
+
+std::optional<Percorso> CercaManuale(const Programma& programma, Vista installato) {
+  for (const Percorso& cartella : {programma.Cartella_Dati, In_Percorso(installato)}) {
+    const Percorso file = programma.disco.Trova(Unisci_Percorso(cartella, File_Manuale));
+    if (programma.disco.Esiste_File(file)) return file;
+  }
+  return std::nullopt;
+}
+
+void ApriManuale(Programma& programma, Vista installato) {
+  if (const auto file = CercaManuale(programma, installato))
+    return programma.piattaforma.Apri_Con_Desktop(*file);
+  Testo testo = "Il manuale non c'è su questo computer.\n"_t;
+  testo.append("\nÈ il file "_t).append(File_Manuale);
+  testo.append(
+      " e arriva insieme al programma:\nchiederlo a chi lo ha installato e copiarlo nella cartella\n");
+  testo.append(Testo_Percorso(programma.Cartella_Dati));
+  programma.piattaforma.Messaggio(testo, Icona::Informazione, "Manuale");
+}

@@ -43,57 +43,58 @@ Stato_Comando Della_Preferenza(const Programma& programma, const Edita& edita) {
   return {!Occupata(edita), programma.preferenze.*flag};
 }
 
+std::vector<Regola> Componi_Regole() {
+  const Testo per_fornitore = "totale € e Kg per fornitore"_t;
+  const Testo per_cliente = "numero immissioni e Kg per cliente";
+  std::vector<Regola> tutte = {
+      {{"Elimina", "&Elimina F3", "", Tasto::F3}, Del_Bottone<&Edita::Elimina>},
+      {{"Modifica", "&Modifica F4", "", Tasto::F4}, Del_Bottone<&Edita::Modifica>},
+      {{"Aggiungi", "Ag&giungi F5", "", Tasto::F5}, Del_Bottone<&Edita::Aggiungi>},
+      {{"Salva", "Sal&va F7", "", Tasto::F7}, Del_Bottone<&Edita::Salva>},
+      {{"RigaPrecedente", "<", "", Tasto::F8}, Sempre},
+      {{"RigaSuccessiva", ">", "", Tasto::F9}, Sempre},
+      {{"Pulisci", "Pulisci", "", Tasto::Altro}, Sempre},
+      {{"Command25", "", "", Tasto::Altro}, Del_Lotto},
+      {{"BottoneDDT", "DDT", "modificare il numero del documento di trasporto o sanitario", Tasto::Altro},
+       Del_Bottone<&Edita::BottoneDDT>},
+      {{"BottoneFAT", "N.Fat", "modificail numero di fattura", Tasto::Altro},
+       Del_Bottone<&Edita::BottoneFAT>},
+      {{"Lotti", "Lotti", "", Tasto::Altro}, Sempre},
+      {{"Imposta_Lotti", "lotti", "Imposta lista Lotti", Tasto::Altro}, Del_Lotto},
+      {{"Memorizza_Fornitore", "Memorizza Fornitore Predefinito", "Salva una Macro con il Fornitore...",
+        Tasto::Altro},
+       Sempre},
+      {{"Memorizza_Specie", "Memorizza Specie Predefinita", "Salva una Macro con la Specie...", Tasto::Altro},
+       Sempre},
+      {{"Nasconde_Bottoni", "Mostra/Nasconde bottoni",
+        "nasconde i bottoni...usare il tasto destro del mouse...", Tasto::Altro},
+       Sempre},
+      {{"Riduce_Edita", "Riduce finestra Edita", "", Tasto::Altro}, Sempre},
+      {{"Esclusi", "Esclusi", "", Tasto::Altro}, Degli_Esclusi},
+      {{"Etichetta", "Etichetta", "Stampa Etichetta", Tasto::Altro}, Sempre},
+      {{"Doc_Trasporto", "&Doc. Trasporto", "", Tasto::Altro}, Sempre},
+      {{"Conti_Vendita", "Conti Ven&dita F2", "", Tasto::F2}, Sempre},
+      {{"Prima_Nota", "&Prima Nota F6", "", Tasto::F6}, Sempre},
+      {{"DSI", "DSI", "stampa documento sanitario per il cliente selezionato", Tasto::Altro},
+       Della_Preferenza<&Preferenze::FlagDSimmediato>},
+      {{"DSI_Riga", "DSI 1R", "stampa documento sanitario per la riga selezionata", Tasto::Altro},
+       Della_Preferenza<&Preferenze::FlagDSimmediatoUR>},
+      {{"Fat", "Fat", "", Tasto::Altro}, Sempre},
+      {{"Saldo", "Saldo", per_fornitore, Tasto::Altro}, Sempre},
+      {{"KgCli", "KgCli", per_cliente, Tasto::Altro}, Sempre},
+      {{"Cerca_Acquirente", "Cerca &Acquirente", per_cliente, Tasto::Altro}, Sempre},
+      {{"Stat", "Stat", "", Tasto::Altro}, Sempre},
+      {{"Stat2", "Stat2", "", Tasto::Altro}, Sempre},
+      {{"Escludi_Codice", "Escludi questo codice", "", Tasto::Altro}, Sempre},
+      {{"Chiudi", "&Chiudi", "", Tasto::Altro}, Sempre},
+  };
+  for (const Finestra_Campo& finestra : Finestre_Campi())
+    tutte.push_back({{finestra.nome, "...", finestra.didascalia, Tasto::Altro}, Del_Bottone_Lista});
+  return tutte;
+}
+
 const std::vector<Regola>& Regole() {
-  static const std::vector<Regola> regole = [] {
-    const Testo per_fornitore = "totale € e Kg per fornitore"_t;
-    const Testo per_cliente = "numero immissioni e Kg per cliente";
-    std::vector<Regola> tutte = {
-        {{"Elimina", "&Elimina F3", "", Tasto::F3}, Del_Bottone<&Edita::Elimina>},
-        {{"Modifica", "&Modifica F4", "", Tasto::F4}, Del_Bottone<&Edita::Modifica>},
-        {{"Aggiungi", "Ag&giungi F5", "", Tasto::F5}, Del_Bottone<&Edita::Aggiungi>},
-        {{"Salva", "Sal&va F7", "", Tasto::F7}, Del_Bottone<&Edita::Salva>},
-        {{"RigaPrecedente", "<", "", Tasto::F8}, Sempre},
-        {{"RigaSuccessiva", ">", "", Tasto::F9}, Sempre},
-        {{"Pulisci", "Pulisci", "", Tasto::Altro}, Sempre},
-        {{"Command25", "", "", Tasto::Altro}, Del_Lotto},
-        {{"BottoneDDT", "DDT", "modificare il numero del documento di trasporto o sanitario", Tasto::Altro},
-         Del_Bottone<&Edita::BottoneDDT>},
-        {{"BottoneFAT", "N.Fat", "modificail numero di fattura", Tasto::Altro},
-         Del_Bottone<&Edita::BottoneFAT>},
-        {{"Lotti", "Lotti", "", Tasto::Altro}, Sempre},
-        {{"Imposta_Lotti", "lotti", "Imposta lista Lotti", Tasto::Altro}, Del_Lotto},
-        {{"Memorizza_Fornitore", "Memorizza Fornitore Predefinito", "Salva una Macro con il Fornitore...",
-          Tasto::Altro},
-         Sempre},
-        {{"Memorizza_Specie", "Memorizza Specie Predefinita", "Salva una Macro con la Specie...",
-          Tasto::Altro},
-         Sempre},
-        {{"Nasconde_Bottoni", "Mostra/Nasconde bottoni",
-          "nasconde i bottoni...usare il tasto destro del mouse...", Tasto::Altro},
-         Sempre},
-        {{"Riduce_Edita", "Riduce finestra Edita", "", Tasto::Altro}, Sempre},
-        {{"Esclusi", "Esclusi", "", Tasto::Altro}, Degli_Esclusi},
-        {{"Etichetta", "Etichetta", "Stampa Etichetta", Tasto::Altro}, Sempre},
-        {{"Doc_Trasporto", "&Doc. Trasporto", "", Tasto::Altro}, Sempre},
-        {{"Conti_Vendita", "Conti Ven&dita F2", "", Tasto::F2}, Sempre},
-        {{"Prima_Nota", "&Prima Nota F6", "", Tasto::F6}, Sempre},
-        {{"DSI", "DSI", "stampa documento sanitario per il cliente selezionato", Tasto::Altro},
-         Della_Preferenza<&Preferenze::FlagDSimmediato>},
-        {{"DSI_Riga", "DSI 1R", "stampa documento sanitario per la riga selezionata", Tasto::Altro},
-         Della_Preferenza<&Preferenze::FlagDSimmediatoUR>},
-        {{"Fat", "Fat", "", Tasto::Altro}, Sempre},
-        {{"Saldo", "Saldo", per_fornitore, Tasto::Altro}, Sempre},
-        {{"KgCli", "KgCli", per_cliente, Tasto::Altro}, Sempre},
-        {{"Cerca_Acquirente", "Cerca &Acquirente", per_cliente, Tasto::Altro}, Sempre},
-        {{"Stat", "Stat", "", Tasto::Altro}, Sempre},
-        {{"Stat2", "Stat2", "", Tasto::Altro}, Sempre},
-        {{"Escludi_Codice", "Escludi questo codice", "", Tasto::Altro}, Sempre},
-        {{"Chiudi", "&Chiudi", "", Tasto::Altro}, Sempre},
-    };
-    for (const Finestra_Campo& finestra : Finestre_Campi())
-      tutte.push_back({{finestra.nome, "...", finestra.didascalia, Tasto::Altro}, Del_Bottone_Lista});
-    return tutte;
-  }();
+  static const std::vector<Regola> regole = Componi_Regole();
   return regole;
 }
 
@@ -112,6 +113,7 @@ void Accoda_Aiuti(std::vector<Voce_Menu>& voci) {
     }
     voci.push_back({"Help", aiuto.voce, aiuto.nome, true, Tasto::Altro});
   }
+  voci.push_back({"Help", "Manuale", "Manuale", true, Tasto::Altro});
 }
 
 const std::vector<Voce_Menu>& Voci_Menu() {

@@ -119,6 +119,7 @@ void CreaCartelle(Programma& programma) {
   Crea_Cartella(programma, Unisci_Percorso(programma.Cartella_Anno, "CV_NO"));
   Crea_Cartella(programma, Unisci_Percorso(programma.Cartella_Dati, "_ReportLear"));
   Crea_Cartella(programma, Unisci_Percorso(programma.Cartella_Dati, "XBanca"));
+  Cartella_Fatture(programma);
 }
 
 Testo MarchioFattura(Vista fat, char separatore) {
@@ -186,9 +187,7 @@ void Chiudi_Edita(Programma& programma, Edita& edita) {
   programma.preferenze.Flag6 = edita.Check[6].segnata ? 1 : 0;
   programma.preferenze.Flag7 = edita.Check[7].segnata ? 1 : 0;
   // a settings file that can't be written costs the operator three ticks, not the closing of the day
-  Scrivi_Chiave(programma, "Flag5", std::to_string(programma.preferenze.Flag5));
-  Scrivi_Chiave(programma, "Flag6", std::to_string(programma.preferenze.Flag6));
-  Scrivi_Chiave(programma, "Flag7", std::to_string(programma.preferenze.Flag7));
+  Scrivi_Preferenze(programma, {"Flag5", "Flag6", "Flag7"});
   edita.List1.visibile = false;
   edita.pronta = false;
   programma.Edita_Aperta = false;
@@ -221,10 +220,19 @@ void VaiRiga(Programma& programma, Edita& edita, int n) {
   CaricaRiga(programma, edita);
 }
 
-void RiprendiEdita(Programma& programma, Edita& edita) {
-  edita.riga_marcata = false;
+LedgerRow RigaCorrente(const Programma& programma, const Edita& edita) {
+  const Tabella& tabella = programma.Vet_Tabella;
+  const int n = edita.hd.valore;
+  return n >= 1 && n <= tabella.Righe() ? tabella.Riga(n) : LedgerRow();
+}
+
+void RiprendiEdita(Programma& programma, Edita& edita, const LedgerRow& prima) {
   edita.albero.ListaVoci.Cambiato();
-  VaiRiga(programma, edita, edita.hd.valore);
+  edita.hd.massimo = programma.Vet_Tabella.Righe();
+  if (RigaCorrente(programma, edita) != prima) {
+    edita.riga_marcata = false;
+    VaiRiga(programma, edita, edita.hd.valore);
+  }
   TitoloVoci(programma, edita);
 }
 

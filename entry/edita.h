@@ -100,9 +100,12 @@ void CambiaHd(Programma& programma, Edita& edita, int valore);
 void VaiRiga(Programma& programma, Edita& edita, int n);  // selects row n (brought into range) and loads it
 void RigaSuccessiva(Programma& programma, Edita& edita);  // F9, from the last to the first
 void RigaPrecedente(Programma& programma, Edita& edita);  // F8
-// A screen of another room is gone and may have changed, sorted or loaded anew the rows: list and fields
-// follow.
-void RiprendiEdita(Programma& programma, Edita& edita);
+// Row hd as the day has it; an empty one without a day.
+LedgerRow RigaCorrente(const Programma& programma, const Edita& edita);
+// A screen of another room is gone and may have changed, sorted or loaded anew the rows: the list follows,
+// and so do the fields where row hd isn't what it was when that screen opened. Else what was keyed and not
+// stored yet stays.
+void RiprendiEdita(Programma& programma, Edita& edita, const LedgerRow& prima);
 Testo RigaVoci(const Programma& programma, int n);  // the list line of row n
 Testo TitoliVoci();
 void Semaforo(Edita& edita, StatoSemaforo stato);

@@ -37,7 +37,7 @@ bool LeggiLotti(Programma& programma, Lotti_Predefiniti& lista) {
   if (!contenuto) return false;
   lista.lotti.clear();
   for (const Vista riga : Righe(*contenuto))
-    if (!Pulito(riga).empty()) lista.lotti.push_back(Senza_Separatori(riga));
+    if (Testo lotto = Senza_Separatori(riga); !Pulito(lotto).empty()) lista.lotti.push_back(std::move(lotto));
   lista.List1.scelta = -1;
   MostraLotti(lista);
   return true;

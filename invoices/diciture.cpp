@@ -1,7 +1,9 @@
 #include "invoices/diciture.h"
 
 #include <algorithm>
+#include <array>
 #include <initializer_list>
+#include <span>
 
 namespace {
 

@@ -35,7 +35,7 @@ struct Cliente_Fattura {
 };
 
 // What a document is drawn by.
-enum class Tracciato_Fattura { Pagine_Testo, Grafica1, Grafica2, Grafica3, Grafica4, Nota_Grafica };
+enum class Tracciato_Fattura { Pagine_Testo, Grafica1, Grafica2, Grafica3, Grafica4, Nota_Grafica, Vettore };
 
 // How a carrier's invoice, which is a transport document too, tells of the transport.
 struct Trasporto_Fattura {

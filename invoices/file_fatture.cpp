@@ -46,13 +46,15 @@ struct Vecchio {
   std::optional<Testo> contenuto;
 };
 
-// The texts of the day's documents before a run, to be put back when it fails.
+// The texts of the day's files before a run, to be put back when it fails.
 class Copia_Di_Prima {
  public:
-  Copia_Di_Prima(const Disco& disco, const Percorso& cartella) : disco_(disco), cartella_(cartella) {
-    for (const Percorso& file : disco_.Elenca(cartella_, ModelloTutti)) {
+  // `nostro` tells which of them are the program's own.
+  Copia_Di_Prima(const Disco& disco, const Percorso& cartella, Vista modello, bool (*nostro)(Vista))
+      : disco_(disco), cartella_(cartella) {
+    for (const Percorso& file : disco_.Elenca(cartella_, modello)) {
       Testo nome = Testo_Percorso(file);
-      if (!E_Documento(nome)) {
+      if (!nostro(nome)) {
         estranei_.push_back(std::move(nome));
         continue;
       }
@@ -155,9 +157,10 @@ Percorso CartellaTransazioni(const Programma& programma) {
   return Unisci_Percorso(programma.Cartella_Dati, "XBanca");
 }
 
-Esito_File SostituisciDocumenti(const Disco& disco, const Percorso& cartella,
-                                const std::vector<File_Documento>& file) {
-  const Copia_Di_Prima prima(disco, cartella);
+namespace {
+
+Esito_File Metti_Tutti(const Disco& disco, const Percorso& cartella, const Copia_Di_Prima& prima,
+                       const std::vector<File_Documento>& file) {
   std::vector<Testo> nuovi;
   nuovi.reserve(file.size());
   for (const File_Documento& nuovo : file) {
@@ -178,6 +181,19 @@ Esito_File SostituisciDocumenti(const Disco& disco, const Percorso& cartella,
   for (const Testo& estraneo : prima.Estranei())
     if (superato(estraneo)) disco.Cancella(Unisci_Percorso(cartella, estraneo));
   return {};
+}
+
+}  // namespace
+
+Esito_File SostituisciDocumenti(const Disco& disco, const Percorso& cartella,
+                                const std::vector<File_Documento>& file) {
+  return Metti_Tutti(disco, cartella, {disco, cartella, ModelloTutti, E_Documento}, file);
+}
+
+Esito_File SostituisciFile(const Disco& disco, const Percorso& cartella, Vista modello,
+                           const std::vector<File_Documento>& file) {
+  const auto tutti = [](Vista) { return true; };
+  return Metti_Tutti(disco, cartella, {disco, cartella, modello, tutti}, file);
 }
 
 Esito_File CancellaFile(const Disco& disco, const Percorso& cartella, Vista modello) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "core/disco.h"
@@ -11,6 +12,9 @@
 //
 //   00345_FAT_00127_20250314_00042_12340_11.txt
 //   customer, kind, number, day, firm, total in cents, pages and page
+
+// Gets the caption of a long job each time it changes.
+using Avanzamento = std::function<void(const Testo&)>;
 
 // "FAT" or "NAC".
 Vista SiglaDocumento(TipoFattura tipo);
@@ -64,5 +68,8 @@ struct Esito_File {
 // can't be deleted changes nothing.
 Esito_File SostituisciDocumenti(const Disco& disco, const Percorso& cartella,
                                 const std::vector<File_Documento>& file);
+// The same for all files that match, none of them foreign; no folder is made.
+Esito_File SostituisciFile(const Disco& disco, const Percorso& cartella, Vista modello,
+                           const std::vector<File_Documento>& file);
 // Deletes the files of the folder that match; goes on after a failure and gives the first.
 Esito_File CancellaFile(const Disco& disco, const Percorso& cartella, Vista modello);

@@ -34,6 +34,8 @@ float Foglio::Larghezza(Vista testo, float corpo, bool grassetto) {
   return printer_.TextWidth(testo);
 }
 
+bool Foglio::Entra(Vista testo, float largo) { return Larghezza(testo, corpo_minimo, false) <= largo; }
+
 void Foglio::Scrivi(float x, float y, Vista testo, float corpo, bool grassetto, float largo) {
   if (testo.empty()) return;
   if (largo > 0) {
@@ -70,6 +72,8 @@ Testo Testo_Cella(const Voce_Documento& voce, Cella cella, char separatore) {
       return voce.Voce;
     case Cella::Lotto:
       return voce.Lotto;
+    case Cella::Colli:
+      return Piano(voce.ColliRiga, separatore);
     case Cella::Peso:
       return Euro2_Migliaia(voce.PesoRiga, separatore);
     case Cella::Prezzo:
@@ -115,6 +119,12 @@ void Disegna_Voce(Foglio& foglio, std::span<const Colonna_Fattura> colonne, cons
     Disegna_Cella(foglio, colonna, Testo_Cella(voce, colonna.cella, separatore), x, y, corpo, false);
     x += colonna.largo;
   }
+}
+
+Testo Lotto_Intero(Foglio& foglio, std::span<const Colonna_Fattura> colonne, const Voce_Documento& voce) {
+  const auto colonna = std::ranges::find(colonne, Cella::Lotto, &Colonna_Fattura::cella);
+  if (colonna == colonne.end() || foglio.Entra(voce.Lotto, colonna->largo - 2 * Margine_Cella)) return {};
+  return "  Lotto: " + voce.Lotto;
 }
 
 Testo Codici_Voce(const Voce_Documento& voce) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <functional>
 #include <span>
 
 #include "invoices/fatture.h"
@@ -23,6 +25,7 @@ class Foglio {
   void A_Destra(float x, float y, float largo, Vista testo, float corpo, bool grassetto = false);
   void Nome_A_Destra(float x, float y, float largo, Vista testo, float corpo);  // cut like any name
   float Larghezza(Vista testo, float corpo, bool grassetto = false);
+  bool Entra(Vista testo, float largo);  // at the smallest size
 
  private:
   void Carattere(float corpo, bool grassetto);
@@ -33,7 +36,7 @@ class Foglio {
   Testo fonte_;
 };
 
-enum class Cella { Descrizione, Lotto, Peso, Prezzo, Importo, Iva, Zona, Vuota };
+enum class Cella { Descrizione, Lotto, Colli, Peso, Prezzo, Importo, Iva, Zona, Vuota };
 
 struct Colonna_Fattura {
   Vista titolo;
@@ -50,6 +53,9 @@ Testo Testo_Cella(const Voce_Documento& voce, Cella cella, char separatore);
 void Disegna_Titoli(Foglio& foglio, std::span<const Colonna_Fattura> colonne, float x, float y, float corpo);
 void Disegna_Voce(Foglio& foglio, std::span<const Colonna_Fattura> colonne, const Voce_Documento& voce,
                   float x, float y, float corpo, char separatore);
+
+// "  Lotto: ..." where the lot had to be cut in its cell: the law wants it whole. Else nothing.
+Testo Lotto_Intero(Foglio& foglio, std::span<const Colonna_Fattura> colonne, const Voce_Documento& voce);
 
 // With Flag_fatture_Esteso: the first 20 characters of the codes and what stands behind their "*".
 Testo Codici_Voce(const Voce_Documento& voce);

@@ -6,7 +6,7 @@ namespace {
 
 bool Prestampata(Tracciato_Fattura tracciato) {
   return tracciato == Tracciato_Fattura::Grafica2 || tracciato == Tracciato_Fattura::Grafica3 ||
-         tracciato == Tracciato_Fattura::Grafica4;
+         tracciato == Tracciato_Fattura::Grafica4 || tracciato == Tracciato_Fattura::Vettore;
 }
 
 }  // namespace
@@ -24,7 +24,7 @@ bool StampaGrafica(const Programma& programma, const Documento_Fattura& document
   Due_Pause(programma);
   if (Prestampata(tracciato) && printer.Orientation() != Verticale) return false;
   const auto pagina_in_corso = [&](int pagina, int pagine) {
-    if (avanzamento) avanzamento(Pagina_In_Corso(documento.cliente.Codice, pagina, pagine));
+    if (avanzamento) avanzamento(Pagina_In_Corso(documento.codice, pagina, pagine));
   };
   for (int copia = 0; copia < copie; ++copia) {
     printer.documento = {documento.Data_AAAAMMGG, Testo(GenereDocumento(documento.tipo)), documento.Numero,

@@ -1,4 +1,8 @@
+#include <algorithm>
 #include <cmath>
+#include <functional>
+#include <utility>
+#include <vector>
 
 #include "core/numeri.h"
 #include "invoices/diciture.h"
@@ -119,7 +123,7 @@ struct Pagina_Intestata {
 
   // The columns' lines go down to the foot of the sheet; sums and wording lie on white.
   void Cornice() {
-    constexpr float lunga = 200, margine = 2;
+    constexpr float lunga = 200, margine = 2, filo = 0.3F;
     float x = sinistra;
     for (std::size_t i = 0; i < 6; ++i) {
       LineaVerticale(foglio.Penna(), x, alto + y_tabella, lunga, Nero, 1);
@@ -127,13 +131,15 @@ struct Pagina_Intestata {
     }
     LineaOrizzontale(foglio.Penna(), static_cast<int>(sinistra), static_cast<int>(alto + y_tabella + lunga),
                      static_cast<int>(Larghezza_Tabella), Nero, 1);
-    Riquadro(foglio.Penna(), sinistra, foglio.Altezza() - piede_totali - margine, Larghezza_Tabella,
-             8 * passo_piede + margine, 1, Bianco, true);
+    const float piede = foglio.Altezza() - piede_totali - margine;
+    Riquadro(foglio.Penna(), sinistra + filo, piede, Larghezza_Tabella - filo,
+             alto + y_tabella + lunga - filo - piede, 1, Bianco, true);
   }
 
   Testo Seconda_Riga(const Voce_Documento& voce) const {
-    if (programma.preferenze.Flag_fatture_Esteso) return Codici_Voce(voce);
-    return voce.ZonaRiga + " - (" + voce.Latino + ") " + voce.ZonaPesca;
+    const Testo lotto = Lotto_Intero(foglio, tracciato.colonne, voce);
+    if (programma.preferenze.Flag_fatture_Esteso) return Codici_Voce(voce) + lotto;
+    return voce.ZonaRiga + " - (" + voce.Latino + ") " + voce.ZonaPesca + lotto;
   }
 
   float Voci(int prima, int ultima) {
@@ -149,7 +155,7 @@ struct Pagina_Intestata {
       foglio.Corsivo(sinistra + Margine_Cella, y + 4, Seconda_Riga(voce), 8, largo);
       if (tracciato.attributi) foglio.Corsivo(sinistra + Margine_Cella, y + 8, voce.Attributi, 8, largo);
       y += tracciato.passo;
-      const bool cambia = i + 1 < ultima && documento.voci[static_cast<std::size_t>(i + 1)].Voce != voce.Voce;
+      const bool cambia = i + 1 < ultima && documento.voci[static_cast<std::size_t>(i) + 1].Voce != voce.Voce;
       if (cambia)
         LineaOrizzontale(foglio.Penna(), static_cast<int>(sinistra), static_cast<int>(y),
                          static_cast<int>(Larghezza_Tabella), Nero, 1);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "core/numeri.h"
 #include "printing/pagina.h"
@@ -217,7 +218,7 @@ std::vector<Pagina_Testo> ComponiPagineTesto(const Programma& programma, const D
   const Stesura stesura{programma, documento};
   std::vector<Pagina_Testo> pagine;
   for (int pagina = 1; pagina <= stesura.pagine; ++pagina) {
-    if (avanzamento) avanzamento(Pagina_In_Corso(documento.cliente.Codice, pagina, stesura.pagine));
+    if (avanzamento) avanzamento(Pagina_In_Corso(documento.codice, pagina, stesura.pagine));
     pagine.push_back(stesura.Pagina(pagina));
   }
   return pagine;

@@ -1,15 +1,12 @@
 #pragma once
 
-#include <functional>
+#include <vector>
 
 #include "invoices/fatture.h"
 #include "invoices/file_fatture.h"
 
 // The text layout: pages of fixed-width lines, each a file of its own, which is the archived form of a
 // document and goes to the printer in a typewriter face.
-
-// Gets the caption of a long job each time it changes.
-using Avanzamento = std::function<void(const Testo&)>;
 
 inline constexpr int Voci_Per_Pagina = 16;  // two lines each
 

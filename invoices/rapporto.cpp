@@ -14,7 +14,8 @@ void Riga(Testo& testo, const Testo& riga) { testo.append(riga).append(FINE_RIGA
 
 }  // namespace
 
-Tabella_Run LeggiDocumenti(const Programma& programma, TipoFattura tipo) {
+Tabella_Run LeggiDocumenti(const Programma& programma, TipoFattura tipo, const Avanzamento& avanzamento) {
+  if (avanzamento) avanzamento("Selezione documenti....");
   Tabella_Run run;
   const auto nomi = programma.disco.Elenca(CartellaGiornoFatture(programma), ModelloDocumenti(tipo));
   for (const Percorso& file : nomi) {
@@ -43,8 +44,10 @@ Testo TestoReport(const Programma& programma, TipoFattura tipo, const Tabella_Ru
   const bool fatture = tipo == TipoFattura::Fattura;
   const char separatore = programma.Separatore_Decimale;
   const Testo quanti = std::to_string(run.righe.size());
+  // Invoices stand between lines of one blank, notes between empty ones.
+  const Testo spazio = fatture ? " " : "";
   Testo testo;
-  Riga(testo, " ");
+  Riga(testo, spazio);
   if (fatture) {
     Riga(testo, "Report Fatture emesse il " + programma.Data_Giorno + " da: " + programma.Ragione[0]);
     Riga(testo, "numero Fatture emesse = " + quanti);
@@ -52,7 +55,7 @@ Testo TestoReport(const Programma& programma, TipoFattura tipo, const Tabella_Ru
     Riga(testo, "Note di credito");
     Riga(testo, "numero Note di credito = " + quanti);
   }
-  Riga(testo, " ");
+  Riga(testo, spazio);
   for (const Riga_Run& riga : run.righe)
     Riga(testo, (fatture ? "Fat n." : "Nac n.") + riga.numero + " a: " + riga.codice + " per euro " +
                     Euro(Valore(riga.centesimi, separatore), separatore));
@@ -60,11 +63,11 @@ Testo TestoReport(const Programma& programma, TipoFattura tipo, const Tabella_Ru
   return testo;
 }
 
-Esito_File ScriviReport(const Programma& programma, TipoFattura tipo) {
+Esito_File ScriviReport(const Programma& programma, TipoFattura tipo, const Avanzamento& avanzamento) {
   const Percorso file = PercorsoReport(programma);
   const Percorso cartella = CartellaReport(programma);
   if (const int errore = programma.disco.Crea_Cartella(cartella)) return {errore, cartella, true};
-  const Testo testo = TestoReport(programma, tipo, LeggiDocumenti(programma, tipo));
+  const Testo testo = TestoReport(programma, tipo, LeggiDocumenti(programma, tipo, avanzamento));
   const int errore = tipo == TipoFattura::Fattura ? programma.disco.Sostituisci(file, testo)
                                                   : programma.disco.Aggiungi(file, testo);
   return {errore, file, true};

@@ -24,7 +24,7 @@ struct Tabella_Run {
 
 // A document of several pages counts once, with the amount of its first page. Where a folder holds later
 // pages only, one empty row is left.
-Tabella_Run LeggiDocumenti(const Programma& programma, TipoFattura tipo);
+Tabella_Run LeggiDocumenti(const Programma& programma, TipoFattura tipo, const Avanzamento& avanzamento = {});
 
 Percorso PercorsoReport(const Programma& programma);  // makes no folder
 
@@ -32,4 +32,4 @@ Percorso PercorsoReport(const Programma& programma);  // makes no folder
 Testo TestoReport(const Programma& programma, TipoFattura tipo, const Tabella_Run& run);
 // Writes them: those of the invoices as a new file, those of the notes behind it. The folder is made when it
 // is missing. The first failure is in the result.
-Esito_File ScriviReport(const Programma& programma, TipoFattura tipo);
+Esito_File ScriviReport(const Programma& programma, TipoFattura tipo, const Avanzamento& avanzamento = {});

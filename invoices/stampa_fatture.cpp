@@ -2,12 +2,15 @@
 
 #include <cerrno>
 #include <initializer_list>
+#include <utility>
 
 #include "core/giorno.h"
 #include "invoices/file_fatture.h"
+#include "invoices/lear.h"
 #include "invoices/pagine_grafiche.h"
 #include "invoices/pagine_testo.h"
 #include "invoices/rapporto.h"
+#include "invoices/transazioni.h"
 #include "printing/pagina.h"
 
 namespace {
@@ -55,9 +58,11 @@ struct Lavoro {
   Programma& programma;
   Stampa_Fatture& stampa;
   Percorso cartella;
-  std::vector<File_Documento> file;               // to be written
-  std::vector<Percorso> ListaFatture, ListaNote;  // first pages, in list order
-  bool orientamento_detto = false;                // once in a run is enough
+  std::vector<File_Documento> file = {};                    // to be written
+  std::vector<Percorso> ListaFatture = {}, ListaNote = {};  // first pages, in list order
+  std::vector<Documento_Fattura> spediti = {};  // of a carrier's run: drawn and filed once texts are safe
+  Testo ultimo_cliente = {};                    // code of the one looked up last
+  bool orientamento_detto = false;              // once in a run is enough
 };
 
 void Di_Orientamento(Lavoro& lavoro) {
@@ -66,23 +71,52 @@ void Di_Orientamento(Lavoro& lavoro) {
   lavoro.programma.piattaforma.Messaggio("la stampante non è orientata in verticale"_t);
 }
 
-// Draws the document, or lays down its text pages to be written.
-void Stendi(Lavoro& lavoro, TipoFattura tipo, const Voce_Fattura& voce) {
-  Programma& programma = lavoro.programma;
-  const Scelte_Stampa& scelte = lavoro.stampa.scelte;
-  const Documento_Fattura documento = PreparaDocumento(programma, tipo, voce);
-  if (documento.voci.empty()) return;  // sales of price zero only
-  const auto avanzamento = [&](const Testo& titolo) { Mostra_Titolo(programma, lavoro.stampa, titolo); };
-  const Tracciato_Fattura tracciato =
-      ScegliTracciato(tipo, scelte, Profilo_Ditta(programma.preferenze.Codice_Commissionario));
-  if (tracciato != Tracciato_Fattura::Pagine_Testo) {
-    if (!StampaGrafica(programma, documento, tracciato, scelte.copie, avanzamento)) Di_Orientamento(lavoro);
-    return;
-  }
-  auto pagine = PagineDocumento(programma, documento, avanzamento);
-  auto& lista = tipo == TipoFattura::Fattura ? lavoro.ListaFatture : lavoro.ListaNote;
+Tracciato_Fattura Tracciato_Di(const Lavoro& lavoro, TipoFattura tipo) {
+  if (lavoro.stampa.spedizione) return Tracciato_Fattura::Vettore;
+  return ScegliTracciato(tipo, lavoro.stampa.scelte,
+                         Profilo_Ditta(lavoro.programma.preferenze.Codice_Commissionario));
+}
+
+void Disegna(Lavoro& lavoro, const Documento_Fattura& documento) {
+  const auto avanzamento = [&](const Testo& titolo) {
+    Mostra_Titolo(lavoro.programma, lavoro.stampa, titolo);
+  };
+  if (!StampaGrafica(lavoro.programma, documento, Tracciato_Di(lavoro, documento.tipo),
+                     lavoro.stampa.scelte.copie, avanzamento))
+    Di_Orientamento(lavoro);
+}
+
+// Lays down the document's text pages, to be written.
+void Scrivi_Testo(Lavoro& lavoro, const Documento_Fattura& documento) {
+  auto pagine = PagineDocumento(lavoro.programma, documento, [&](const Testo& titolo) {
+    Mostra_Titolo(lavoro.programma, lavoro.stampa, titolo);
+  });
+  auto& lista = documento.tipo == TipoFattura::Fattura ? lavoro.ListaFatture : lavoro.ListaNote;
   lista.push_back(Unisci_Percorso(lavoro.cartella, pagine.front().nome));
   for (File_Documento& pagina : pagine) lavoro.file.push_back(std::move(pagina));
+}
+
+// The document with its expenses and its carrier, where goods are shipped. What a note gives back was
+// shipped with its invoice.
+Documento_Fattura Prepara(Lavoro& lavoro, TipoFattura tipo, const Voce_Fattura& voce) {
+  Documento_Fattura documento = PreparaDocumento(lavoro.programma, tipo, voce);
+  lavoro.ultimo_cliente = documento.cliente.Codice;
+  const auto& spedizione = lavoro.stampa.spedizione;
+  if (!spedizione || tipo == TipoFattura::Nota) return documento;
+  AggiungiSpese(documento.importi, spedizione->spese, spedizione->aliquota);
+  documento.trasporto = spedizione->trasporto;
+  return documento;
+}
+
+// Draws the document or lays down its text pages; in a carrier's run the pages first.
+void Stendi(Lavoro& lavoro, TipoFattura tipo, const Voce_Fattura& voce) {
+  Documento_Fattura documento = Prepara(lavoro, tipo, voce);
+  if (documento.voci.empty()) return;  // sales of price zero only
+  const bool corsa_vettore = lavoro.stampa.spedizione && lavoro.stampa.scelte.Tutte;
+  if (!corsa_vettore && Tracciato_Di(lavoro, tipo) != Tracciato_Fattura::Pagine_Testo)
+    return Disegna(lavoro, documento);
+  Scrivi_Testo(lavoro, documento);
+  if (corsa_vettore) lavoro.spediti.push_back(std::move(documento));
 }
 
 void Di_Errore_File(const Programma& programma, const Esito_File& esito, Vista cosa, Vista e_poi) {
@@ -124,14 +158,47 @@ bool Scrivi_Documenti(Lavoro& lavoro) {
   return true;
 }
 
-bool Scrivi_Reports(const Programma& programma) {
+bool Scrivi_Reports(const Programma& programma, const Stampa_Fatture& stampa) {
+  const auto avanzamento = [&](const Testo& titolo) { Mostra_Titolo(programma, stampa, titolo); };
   for (const TipoFattura tipo : {TipoFattura::Fattura, TipoFattura::Nota}) {
-    const Esito_File esito = ScriviReport(programma, tipo);
+    const Esito_File esito = ScriviReport(programma, tipo, avanzamento);
     if (esito.errore == 0) continue;
     Di_Errore_File(programma, esito, "Il report non è stato scritto."_t, "I documenti sono stati scritti.");
     return false;
   }
   return true;
+}
+
+// The bank's transactions, then the accountant's records; a failure of one doesn't keep the other back.
+bool Scrivi_Registri(const Lavoro& lavoro) {
+  const Programma& programma = lavoro.programma;
+  const auto detto = [&](const Esito_File& esito, Vista cosa, Vista e_poi) {
+    if (esito.errore != 0) Di_Errore_File(programma, esito, cosa, e_poi);
+    return esito.errore == 0;
+  };
+  constexpr Vista come_erano = "Quello che c'era prima resta. Controllare il disco e ripetere la stampa.";
+  bool scritti =
+      detto(ScriviTransazioni(programma, lavoro.ultimo_cliente,
+                              [&](const Testo& titolo) { Mostra_Titolo(programma, lavoro.stampa, titolo); }),
+            "Le transazioni non sono state scritte.", come_erano);
+  if (scritti)
+    scritti = detto(CancellaAltreTransazioni(programma), "Le transazioni di prima non si possono cancellare.",
+                    "Cancellarle dalla cartella: alla banca va un giorno solo.");
+  const Esito_File lear =
+      programma.preferenze.Flag_Lear ? ScriviLear(programma, lavoro.spediti) : CancellaLear(programma);
+  return detto(lear, "I file Lear non sono stati scritti.",
+               lear.rimesso ? come_erano : "Non tutti quelli di prima si sono potuti rimettere.") &&
+         scritti;
+}
+
+// A run that is refused has already taken away what was there of the day.
+void Cancella_Rifiutata(const Lavoro& lavoro) {
+  Cancella_Tutto(lavoro.programma, lavoro.cartella);
+  if (!lavoro.stampa.spedizione) return;
+  const Esito_File lear = CancellaLear(lavoro.programma);
+  if (lear.errore != 0)
+    Di_Errore_File(lavoro.programma, lear, "I file Lear di prima non si possono cancellare.",
+                   "Controllare la cartella e ripetere.");
 }
 
 void Stampa_Grande(const Lavoro& lavoro, const std::vector<Percorso>& lista, TipoFattura tipo) {
@@ -140,19 +207,27 @@ void Stampa_Grande(const Lavoro& lavoro, const std::vector<Percorso>& lista, Tip
   for (const Percorso& nome : lista) StampaFileTesto(lavoro.programma, nome, tipo);
 }
 
+// The paper of a run whose texts are safe.
+void Stampa_Corsa(Lavoro& lavoro) {
+  const Scelte_Stampa& scelte = lavoro.stampa.scelte;
+  if (!scelte.Stampale) return;
+  for (const Documento_Fattura& documento : lavoro.spediti) Disegna(lavoro, documento);
+  if (!lavoro.stampa.spedizione && !scelte.Paginax2 && !lavoro.ListaFatture.empty())
+    Stampa_Grande(lavoro, lavoro.ListaFatture, TipoFattura::Fattura);
+}
+
 // Documents, report and paper; false when something stopped it.
 bool Esegui(Programma& programma, Stampa_Fatture& stampa) {
-  Lavoro lavoro{programma, stampa, Cartella_Fatture(programma), {}, {}, {}};
+  Lavoro lavoro{.programma = programma, .stampa = stampa, .cartella = Cartella_Fatture(programma)};
   if (!programma.disco.Esiste_Cartella(lavoro.cartella)) return false;  // told
-  const bool grafica = Quante_Grafiche(stampa.scelte) > 0;
+  const bool grafica = !stampa.spedizione && Quante_Grafiche(stampa.scelte) > 0;
   Mostra_Titolo(programma, stampa, "Cancellazione Fatture e Transazioni di oggi...");
   // Text pages take the place of the old ones once all of them are safe; drawn ones leave no file.
   if (grafica && !Cancella_Tutto(programma, lavoro.cartella)) return false;
   Mostra_Titolo(programma, stampa, "Controlo numerazione....");
   programma.preferenze.CittaCV = Pulito(stampa.Text2);
   if (!stampa.note.empty() && !NoteStampabili(programma, stampa.note)) {
-    // a run that is refused here has already taken away what was there
-    if (!grafica) Cancella_Tutto(programma, lavoro.cartella);
+    if (!grafica) Cancella_Rifiutata(lavoro);
     return false;
   }
   for (const Voce_Fattura& nota : stampa.note) Stendi(lavoro, TipoFattura::Nota, nota);
@@ -162,12 +237,11 @@ bool Esegui(Programma& programma, Stampa_Fatture& stampa) {
   }
   for (const Voce_Fattura& fattura : stampa.fatture) Stendi(lavoro, TipoFattura::Fattura, fattura);
   if (!grafica && !Scrivi_Documenti(lavoro)) return false;
-  if (stampa.scelte.Stampale && !stampa.scelte.Paginax2 && !lavoro.ListaFatture.empty())
-    Stampa_Grande(lavoro, lavoro.ListaFatture, TipoFattura::Fattura);
+  Stampa_Corsa(lavoro);
   Mostra_Titolo(programma, stampa, "Prepara i report...");
-  const bool scritti = Scrivi_Reports(programma);
+  bool scritti = Scrivi_Reports(programma, stampa);
   Mostra_Titolo(programma, stampa, "Prepara file transazioni con vet_report");
-  if (stampa.transazioni) stampa.transazioni(programma);
+  if (stampa.spedizione) scritti = Scrivi_Registri(lavoro) && scritti;
   if (stampa.scelte.Paginax2) {
     StampaDuePerFoglio(programma, lavoro.ListaFatture, TipoFattura::Fattura);
     StampaDuePerFoglio(programma, lavoro.ListaNote, TipoFattura::Nota);
@@ -180,7 +254,7 @@ bool Stampa_Una(Programma& programma, Stampa_Fatture& stampa, TipoFattura tipo, 
   const bool numerata =
       tipo == TipoFattura::Fattura ? FatturaStampabile(programma, voce) : NotaStampabile(programma, voce);
   if (!numerata) return false;
-  Lavoro lavoro{programma, stampa, CartellaGiornoFatture(programma), {}, {}, {}};
+  Lavoro lavoro{.programma = programma, .stampa = stampa, .cartella = CartellaGiornoFatture(programma)};
   programma.preferenze.CittaCV = Pulito(stampa.Text2);
   Stendi(lavoro, tipo, voce);
   if (lavoro.file.empty()) return true;
@@ -229,6 +303,12 @@ Testo ConfermaFatNa(const Scelte_Stampa& scelte, Vista orientamento) {
          Unisci_Righe({cosa, "i dati devono essere giusti.", "OK per continuare..."});
 }
 
+Testo ConfermaVettore() {
+  return Unisci_Righe({"Stampa tutte le fatture e note di accredito personalizzate ",
+                       "la stampa avviene nell'ordine che si vede in lista.", "i dati devono essere giusti.",
+                       "OK per continuare..."});
+}
+
 bool StampaFatNa(Programma& programma, Stampa_Fatture& stampa) {
   Scelte_Stampa& scelte = stampa.scelte;
   if (stampa.note.empty() && stampa.fatture.empty()) {
@@ -247,8 +327,10 @@ bool StampaFatNa(Programma& programma, Stampa_Fatture& stampa) {
     scelte.Paginax2 = false;
     scelte.Stampale = true;
   }
-  Scegli_Orientamento(programma, Quante_Grafiche(scelte) == 1 || scelte.Paginax2);
-  const Testo conferma = ConfermaFatNa(scelte, OrientamentoStampante(Dispositivo(programma)));
+  const bool disegna = stampa.spedizione && scelte.Stampale;
+  Scegli_Orientamento(programma, disegna || Quante_Grafiche(scelte) == 1 || scelte.Paginax2);
+  const Testo conferma =
+      disegna ? ConfermaVettore() : ConfermaFatNa(scelte, OrientamentoStampante(Dispositivo(programma)));
   if (!programma.piattaforma.Domanda(conferma)) return false;
   {
     const Schermo_Fermo fermo(programma, stampa);
@@ -266,13 +348,14 @@ bool StampaFatNa(Programma& programma, Stampa_Fatture& stampa) {
 
 bool StampaVoce(Programma& programma, Stampa_Fatture& stampa, TipoFattura tipo, const Voce_Fattura& voce) {
   Scelte_Stampa& scelte = stampa.scelte;
-  if (!scelte.Stampale && Quante_Grafiche(scelte) == 0 && !scelte.Completa) {
+  const bool disegna = stampa.spedizione.has_value();
+  if (!disegna && !scelte.Stampale && Quante_Grafiche(scelte) == 0 && !scelte.Completa) {
     programma.piattaforma.Apri_Con_Desktop(Cartella_Fatture(programma));
     return true;
   }
   scelte.Tutte = false;
   scelte.Paginax2 = false;
-  Scegli_Orientamento(programma, Quante_Grafiche(scelte) == 1);
+  Scegli_Orientamento(programma, disegna || Quante_Grafiche(scelte) == 1);
   const Vista domanda = tipo == TipoFattura::Fattura ? "OK per stampare questa fattura ..."
                                                      : "OK per stampare questa nota di credito ...";
   if (!programma.piattaforma.Domanda(

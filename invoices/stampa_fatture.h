@@ -1,22 +1,30 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include "invoices/fatture.h"
 
 // Printing and filing of invoices and credit notes: the run over all of them, one alone, and what is shown of
 // their files. A screen keeps the lists, the choices and the caption, and hands them over here.
 
+// Of a firm that ships its goods: its invoices are transport documents too. They are always drawn; a run also
+// writes their text pages, the bank's transactions and, where the firm wants them, the accountant's records.
+struct Spedizione {
+  Trasporto_Fattura trasporto;
+  double spese = 0, aliquota = 0;  // euro on each invoice, and their rate in per cent
+};
+
 // What a print command works on. The screen shows `scelte` again when a command is done: the commands set
 // some of the boxes themselves.
 struct Stampa_Fatture {
   TabellaDocumenti fatture, note;  // in the order in which the lists stand
   Scelte_Stampa scelte;
-  Testo Text2;  // the place before the date
+  Testo Text2;                           // the place before the date
+  std::optional<Spedizione> spedizione;  // of a firm that ships its goods
   // Any of these may be empty.
-  std::function<void(const Testo&)> titolo;     // the screen's caption; who shows it repaints
-  std::function<void(bool)> attiva;             // false while documents are written and printed, then true
-  std::function<void(Programma&)> transazioni;  // of the screen that files them: once the reports are written
+  std::function<void(const Testo&)> titolo;  // the screen's caption; who shows it repaints
+  std::function<void(bool)> attiva;          // false while documents are written and printed, then true
 };
 
 // "Stampa Fat+Na": checks, asks, replaces all documents of the day by new ones, prints as chosen, writes the
@@ -40,8 +48,9 @@ struct Ordine_Archivio {
 Ordine_Archivio CambiaArchivio(Scelte_Stampa& scelte);
 inline constexpr Vista Suggerimento_Archivio = "Opzioni predefinite";  // tip of that button
 
-// The text of the confirmation that a run asks for.
+// The text of the confirmation that a run asks for; the other one for carriers' invoices.
 Testo ConfermaFatNa(const Scelte_Stampa& scelte, Vista orientamento);
+Testo ConfermaVettore();
 
 // ---- menu "Mostra"
 

@@ -6,6 +6,7 @@
 #include "core/giorno.h"
 #include "core/numeri.h"
 #include "invoices/fermo.h"
+#include "invoices/zfatture_vettore.h"
 #include "lists/ordina.h"
 #include "printing/pagina.h"
 
@@ -60,6 +61,12 @@ void Ordina_Liste(const Programma& programma, ZFatture& zfatture, ColonnaFatture
   Riempi_Liste(programma, zfatture);
 }
 
+Testo Titolo(const Programma& programma, const ZFatture& zfatture, TipoFattura tipo) {
+  const Vista titolo = tipo == TipoFattura::Fattura ? zfatture.variante->titolo_del_giorno
+                                                    : Vista("Stampa Note di Accredito del ");
+  return Testo(titolo) + programma.Data_Giorno;
+}
+
 // The document in work, in the fields beside the lists.
 void Mostra_Documento(ZFatture& zfatture) {
   const Voce_Fattura* voce = Scelto(zfatture, zfatture.ListaAttiva);
@@ -71,8 +78,7 @@ void Mostra_Documento(ZFatture& zfatture) {
 void Scegli(const Programma& programma, ZFatture& zfatture, TipoFattura tipo, int riga) {
   zfatture.ListaAttiva = tipo;
   Lista(zfatture, tipo).scelta = riga;
-  zfatture.titolo = (tipo == TipoFattura::Fattura ? "Stampa Fatture del " : "Stampa Note di Accredito del ") +
-                    programma.Data_Giorno;
+  zfatture.titolo = Titolo(programma, zfatture, tipo);
   Mostra_Documento(zfatture);
   AggiornaComandi(programma, zfatture);
 }
@@ -95,7 +101,7 @@ constexpr Didascalia didascalie[] = {
     {nullptr, &ZFatture::ModificaNA, "Modifica NA", ""},
     {nullptr, &ZFatture::Command3, "Stampa Fat+Na", ""},
     {nullptr, &ZFatture::Command7, "Report", ""},
-    {nullptr, &ZFatture::Command6, "x Clienti", "Opzioni predefinite"},
+    {nullptr, &ZFatture::Command6, "", "Opzioni predefinite"},
     {nullptr, &ZFatture::Chiudi, "&Chiudi", ""},
     {nullptr, &ZFatture::NumeraFat, "Numerasolo Fatture", ""},
     {nullptr, &ZFatture::NumeraNA, "Numera solo Note di Credito", ""},
@@ -114,9 +120,10 @@ constexpr Didascalia didascalie[] = {
 struct Casella {
   Spunta ZFatture::*spunta;
   Vista didascalia, suggerimento;
+  bool anche_spedizione = false;
 };
 constexpr Casella caselle[] = {
-    {&ZFatture::Tutte, "Tutte", "Scrive tutte le fatture in formato Testo su disco"},
+    {&ZFatture::Tutte, "Tutte", "Scrive tutte le fatture in formato Testo su disco", true},
     {&ZFatture::Stampale, "Stampa", "Stampa le fatture con la stampante"},
     {&ZFatture::Paginax2, "2 x pagina", "Stampa due fatture per pagina (foglio verticale)"},
     {&ZFatture::Personalizzata, "Personalizzata", "Stampa le fatture con grafica"},
@@ -126,23 +133,35 @@ constexpr Casella caselle[] = {
     {&ZFatture::Check3, "Ristoranti", ""},
 };
 
+// The boxes as they were left; a carrier's screen hasn't those of the layouts and filters.
+void Prepara_Caselle(const Preferenze& preferenze, ZFatture& zfatture) {
+  const bool spedizione = zfatture.variante->spedizione;
+  for (const Casella& casella : caselle) {
+    Spunta& spunta = zfatture.*casella.spunta;
+    spunta.didascalia = casella.didascalia;
+    spunta.suggerimento = casella.suggerimento;
+    spunta.visibile = casella.anche_spedizione || !spedizione;
+  }
+  zfatture.Tutte.segnata = true;
+  if (spedizione) return;
+  zfatture.Personalizzata.segnata = preferenze.FlagPersonalizzata;
+  zfatture.Completa.segnata = preferenze.FlagPersonalizzataCompleta;
+  zfatture.Check2.segnata = preferenze.FlagEE;
+  zfatture.Check3.segnata = preferenze.FlagSoloRis;
+  zfatture.Check3.visibile = preferenze.FlagRistoranti;
+}
+
 void Prepara_Controlli(const Programma& programma, ZFatture& zfatture) {
   for (const Didascalia& didascalia : didascalie) {
     Scritta& scritta = didascalia.scritta ? zfatture.*didascalia.scritta : zfatture.*didascalia.bottone;
     scritta.testo = didascalia.testo;
     scritta.suggerimento = didascalia.suggerimento;
   }
-  for (const Casella& casella : caselle) {
-    (zfatture.*casella.spunta).didascalia = casella.didascalia;
-    (zfatture.*casella.spunta).suggerimento = casella.suggerimento;
-  }
   const Preferenze& preferenze = programma.preferenze;
-  zfatture.Tutte.segnata = true;
-  zfatture.Personalizzata.segnata = preferenze.FlagPersonalizzata;
-  zfatture.Completa.segnata = preferenze.FlagPersonalizzataCompleta;
-  zfatture.Check2.segnata = preferenze.FlagEE;
-  zfatture.Check3.segnata = preferenze.FlagSoloRis;
-  zfatture.Check3.visibile = preferenze.FlagRistoranti;
+  zfatture.Command6.testo = zfatture.variante->didascalia_Command6;
+  zfatture.Esclusi.visibile = !zfatture.variante->spedizione;
+  Prepara_Caselle(preferenze, zfatture);
+  PreparaSpedizione(preferenze, zfatture);
   zfatture.ListaTitolo.testo = "Codice|" + Pad(" Cliente", larghezza_colonna + 1) +
                                Pad(" DDT Riferimento", larghezza_colonna + 1) + " N.Fat ";
   zfatture.Caption[1].testo = "Destinatario";
@@ -153,12 +172,12 @@ void Prepara_Controlli(const Programma& programma, ZFatture& zfatture) {
   zfatture.Combo2.scelta = 0;
 }
 
-// Invoices of excluded customers are left out; with FlagEE they alone stay. Credit notes always stay. False
-// when nothing is left to be done.
+// Invoices of excluded customers are left out; with FlagEE, which a carrier's screen doesn't know, they alone
+// stay. Credit notes always stay. False when nothing is left to be done.
 bool Filtra_Esclusi(Programma& programma, ZFatture& zfatture) {
   TabellaDocumenti& fatture = zfatture.TabellaFatture;
   const auto escluso = [&](const Voce_Fattura& voce) { return E_Escluso(programma, voce.Codice); };
-  if (!programma.preferenze.FlagEE) {
+  if (zfatture.variante->spedizione || !programma.preferenze.FlagEE) {
     const auto esclusi = std::erase_if(fatture, escluso);
     zfatture.Esclusi.testo = std::to_string(esclusi) + " Esclusi";
     return true;
@@ -173,7 +192,7 @@ bool Filtra_Esclusi(Programma& programma, ZFatture& zfatture) {
 }
 
 void Filtra_Ristoranti(const Programma& programma, ZFatture& zfatture) {
-  if (!programma.preferenze.FlagSoloRis) return;
+  if (zfatture.variante->spedizione || !programma.preferenze.FlagSoloRis) return;
   std::erase_if(zfatture.TabellaFatture,
                 [&](const Voce_Fattura& voce) { return !E_Ristorante(programma, voce.Codice); });
 }
@@ -275,16 +294,17 @@ void Cambia_Riferimenti(const Programma& programma, ZFatture& zfatture, Cambia c
 
 // ---- closing
 
-void Salva_Scelte(Programma& programma, const ZFatture& zfatture) {
+// False when the settings file can't be written.
+bool Salva_Scelte(Programma& programma, const ZFatture& zfatture) {
   Preferenze& preferenze = programma.preferenze;
+  preferenze.CittaCV = Pulito(zfatture.Text2.testo);
+  if (zfatture.variante->spedizione) return SalvaSpedizione(programma, zfatture);
   preferenze.FlagEE = zfatture.Check2.segnata;
   preferenze.FlagSoloRis = zfatture.Check3.segnata;
   preferenze.FlagPersonalizzata = zfatture.Personalizzata.segnata;
   preferenze.FlagPersonalizzataCompleta = zfatture.Completa.segnata;
-  preferenze.CittaCV = Pulito(zfatture.Text2.testo);
-  // a settings file that can't be written costs the operator some ticks, not the closing
-  Scrivi_Preferenze(programma,
-                    {"FlagPersonalizzata", "FlagPersonalizzatacompleta", "CittaVC", "FlagEE", "FlagSoloRis"});
+  return Scrivi_Preferenze(
+      programma, {"FlagPersonalizzata", "FlagPersonalizzatacompleta", "CittaVC", "FlagEE", "FlagSoloRis"});
 }
 
 void Chiudi_Schermo(Programma& programma, ZFatture& zfatture) {
@@ -298,7 +318,9 @@ void Chiudi_Schermo(Programma& programma, ZFatture& zfatture) {
   Modifica_Vet_Tabella_Tutto(programma, zfatture.TabellaNote, fatture);
   Rinumera_Tabella(programma);
   programma.Tabella_Modificata = true;
-  Salva_Scelte(programma, zfatture);
+  if (!Salva_Scelte(programma, zfatture))  // costs the operator some ticks, not the closing
+    programma.piattaforma.Messaggio("Le opzioni delle fatture non sono state salvate: il file\n" +
+                                    Testo_Percorso(programma.File_Ini) + "\nnon si può scrivere."_t);
   programma.piattaforma.Messaggio(
       "Per salvare i numeri di fattura \nsalvare i dati prima di chiudere il programma.");
   zfatture.chiusa = true;
@@ -318,6 +340,7 @@ void AggiornaComandi(const Programma& /*programma*/, ZFatture& zfatture) {
   zfatture.ModificaFAT.attivo = zfatture.attiva && !nota && zfatture.MList2.scelta >= 0;
   zfatture.ModificaNA.attivo = zfatture.attiva && nota && zfatture.ListNA.scelta >= 0;
   for (const Casella& casella : caselle) (zfatture.*casella.spunta).attivo = zfatture.attiva;
+  AttivaSpedizione(zfatture);
   if (zfatture.attiva) Mostra_Documento(zfatture);
 }
 
@@ -330,10 +353,12 @@ bool CiSonoVendite(Programma& programma) {
 
 void ApriFatture(Programma& programma, ZFatture& zfatture) {
   Preferenze& preferenze = programma.preferenze;
-  preferenze.FlagSoloRis = preferenze.FlagSoloRis && preferenze.FlagRistoranti;
+  if (!zfatture.variante->spedizione)
+    preferenze.FlagSoloRis = preferenze.FlagSoloRis && preferenze.FlagRistoranti;
+  zfatture.titolo = zfatture.variante->titolo;
   const Fermo fermo(programma, zfatture);
   Prepara_Controlli(programma, zfatture);
-  zfatture.titolo = "Stampa Fatture del " + programma.Data_Giorno;
+  zfatture.titolo = Titolo(programma, zfatture, TipoFattura::Fattura);
 
   Ordina_Colonna(programma, CampoRiga::Cliente);  // a customer's rows stand together
   zfatture.TabellaFatture = CaricaDocumenti(programma.Vet_Tabella, TipoFattura::Fattura);
@@ -353,6 +378,13 @@ void ApriFatture(Programma& programma, ZFatture& zfatture) {
   Cancella_Trasmissione(programma);
   Ordina_Liste(programma, zfatture, ColonnaFatture::Riferimento);
   Ordina_Liste(programma, zfatture, ColonnaFatture::Numero);
+}
+
+void TogliFatture(const Programma& programma, ZFatture& zfatture,
+                  const std::function<bool(const Voce_Fattura&)>& via) {
+  std::erase_if(zfatture.TabellaFatture, via);
+  Riempi_Lista(zfatture, TipoFattura::Fattura, 0);
+  AggiornaComandi(programma, zfatture);
 }
 
 void ChiudiFatture(Programma& programma, ZFatture& zfatture) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 
 #include "core/controlli.h"
 #include "invoices/fatture.h"
@@ -8,8 +9,39 @@
 // The screen `ZFatture`: the day's invoices and credit notes, their numbers and their printing. The numbers
 // live in the two tables until they are written into the ledger: by a print, by an edit, at the closing.
 
+// What the screen of a firm that ships its goods, `ZFattureBRENVAL`, has otherwise. All else is one screen.
+struct Variante_Fatture {
+  Vista nome;    // of the window
+  Vista titolo;  // of the screen, and what stands in front of the day in it
+  Vista titolo_del_giorno;
+  Vista didascalia_Command6;
+  Vista nome_Report;  // of the button "Report"
+  // Fields of the transport and buttons that filter the list stand in place of the boxes of the layouts and
+  // of the filters at the opening; documents are always drawn by the carrier's layout.
+  bool spedizione;
+};
+inline constexpr Variante_Fatture Fatture_Senza_Vettore = {
+    "ZFatture", "Fatturazione e Note di Accredito NA", "Stampa Fatture del ", "x Clienti", "Command7", false};
+inline constexpr Variante_Fatture Fatture_Con_Vettore = {"ZFattureBRENVAL",
+                                                         "Fatturazione e Note di Accredito NA Brenval",
+                                                         "Stampa Fatture Brenval del ",
+                                                         "Scegli...",
+                                                         "Report",
+                                                         true};
+
+// The controls that only the carrier's screen has.
+struct Campi_Spedizione {
+  CampoTesto Text8, Text3, Text6;   // reason of the transport, aspect of the goods, by which means
+  CampoTesto Text4, Text5;          // expenses and their VAT rate
+  std::array<CampoTesto, 3> Text7;  // the carrier
+  Scritta Caption_Text8, Caption_Text3, Caption_Text6, Caption_Text4, Caption_Text7;
+  Bottone Command8, Command7;       // only restaurants, only codes that aren't numbers
+  Bottone Mostra_Esclusi, Vettori;  // menu entries
+};
+
 struct ZFatture {
-  Testo titolo = "Fatturazione e Note di Accredito NA";
+  const Variante_Fatture* variante = &Fatture_Senza_Vettore;
+  Testo titolo;
   Scritta ListaTitolo, Caption_MList2, Caption_ListNA;
   Elenco MList2, ListNA;            // one line for each row of TabellaFatture and TabellaNote
   std::array<CampoTesto, 4> Text1;  // 1 customer, 2 reference, 3 number of the document in work
@@ -29,6 +61,7 @@ struct ZFatture {
   Bottone NumeraFat, NumeraNA, Numera_Tutto, Annulla_Numerazione, Aggiungi_Data, Togli_Data;
   Bottone Mostra_Transazioni, Mostra_Fatture, Mostra_Report, Formato_Semplice, Formato_Lear;
   Bottone Personalizza_Fatture, Scelta_Stampante;  // the screens that they open
+  Campi_Spedizione spedizione;
 
   TabellaDocumenti TabellaFatture, TabellaNote;
   TipoFattura ListaAttiva = TipoFattura::Fattura;  // of the list that was touched last
@@ -46,6 +79,10 @@ void ChiudiFatture(Programma& programma, ZFatture& zfatture);
 
 // What is enabled and written on buttons and captions now; every routine here ends with it.
 void AggiornaComandi(const Programma& programma, ZFatture& zfatture);
+
+// Leaves these invoices out of the list.
+void TogliFatture(const Programma& programma, ZFatture& zfatture,
+                  const std::function<bool(const Voce_Fattura&)>& via);
 
 void SceltaDocumento(Programma& programma, ZFatture& zfatture, TipoFattura tipo, int riga);  // from 0
 void CambiaFiltro(Programma& programma, ZFatture& zfatture,

@@ -3,6 +3,7 @@
 #include "invoices/fermo.h"
 #include "invoices/stampa_fatture.h"
 #include "invoices/zfatture.h"
+#include "invoices/zfatture_vettore.h"
 
 // The print commands of the screen `ZFatture`: its boxes and lists go to the routines that print, and the
 // boxes that these have set come back.
@@ -22,10 +23,20 @@ constexpr Casella_Scelta caselle[] = {
     {&ZFatture::Completa, &Scelte_Stampa::Completa},
 };
 
-Scelte_Stampa Scelte(const ZFatture& zfatture) {
+Scelte_Stampa Caselle(const ZFatture& zfatture) {
   Scelte_Stampa scelte;
   for (const auto& [casella, scelta] : caselle) scelte.*scelta = (zfatture.*casella).segnata;
+  return scelte;
+}
+
+Scelte_Stampa Scelte(const ZFatture& zfatture) {
+  Scelte_Stampa scelte = Caselle(zfatture);
   scelte.copie = std::max(0, zfatture.Combo2.scelta) + 1;
+  if (zfatture.variante->spedizione) {
+    // no box is there to say otherwise: carriers' invoices go to paper, one a sheet
+    scelte.Stampale = true;
+    scelte.Paginax2 = false;
+  }
   return scelte;
 }
 
@@ -40,9 +51,9 @@ void Esegui(Programma& programma, ZFatture& zfatture, Comando comando) {
                         .note = zfatture.TabellaNote,
                         .scelte = Scelte(zfatture),
                         .Text2 = zfatture.Text2.testo,
+                        .spedizione = SpedizioneScelta(programma, zfatture),
                         .titolo = [&](const Testo& titolo) { zfatture.titolo = titolo; },
-                        .attiva = {},
-                        .transazioni = {}};
+                        .attiva = {}};
   const Testo titolo = zfatture.titolo;
   if (!comando(stampa)) zfatture.titolo = titolo;
   Mostra_Scelte(zfatture, stampa.scelte);
@@ -72,9 +83,9 @@ void Report(Programma& programma, ZFatture& zfatture) {
 
 void Archivio(Programma& programma, ZFatture& zfatture) {
   if (!zfatture.attiva) return;
-  Scelte_Stampa scelte = Scelte(zfatture);
+  Scelte_Stampa scelte = Caselle(zfatture);
   const Ordine_Archivio ordine = CambiaArchivio(scelte);
   Ordina(programma, zfatture, ordine.colonna);
   Mostra_Scelte(zfatture, scelte);
-  zfatture.Command6.testo = ordine.didascalia;
+  if (!zfatture.variante->spedizione) zfatture.Command6.testo = ordine.didascalia;
 }

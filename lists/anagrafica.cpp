@@ -121,8 +121,18 @@ bool Scrivi_E_Salva(Programma& programma, const SchermoAnagrafica& schermo, std:
   return false;
 }
 
-void Rileggi(Programma& programma, SchermoAnagrafica& schermo, std::size_t r) {
-  schermo.anagrafica->leggi(programma);
+// A file that has just been written and can't be read back (told) leaves the table that it was made of.
+void Leggi_O_Tieni(Programma& programma, const Anagrafica& anagrafica, bool scritto_dalla_tabella) {
+  const auto ripristina = anagrafica.tabella.ripristino(programma);
+  anagrafica.leggi(programma);
+  const auto ignota = programma.Liste_Ignote.find(Testo(anagrafica.file));
+  if (ignota == programma.Liste_Ignote.end()) return;
+  ripristina();
+  if (scritto_dalla_tabella) programma.Liste_Ignote.erase(ignota);
+}
+
+void Rileggi(Programma& programma, SchermoAnagrafica& schermo, std::size_t r, bool scritto_dalla_tabella) {
+  Leggi_O_Tieni(programma, *schermo.anagrafica, scritto_dalla_tabella);
   const std::size_t righe = Righe_Di(programma, schermo);
   Tabella_Riletta(programma, schermo, static_cast<int>(std::min(r, righe)) - (r >= righe ? 1 : 0));
   Mostra_Riga(programma, schermo);
@@ -188,7 +198,7 @@ void Ordina_Anagrafica(Programma& programma, SchermoAnagrafica& schermo, std::si
   while (dove < Righe_Di(programma, schermo) && !std::ranges::equal(Riga_Di(programma, schermo, dove), riga))
     ++dove;
   schermo.ordine = static_cast<int>(ordine);
-  Rileggi(programma, schermo, scelta < 0 ? 0 : Posto_Nel_File(programma, schermo, dove));
+  Rileggi(programma, schermo, scelta < 0 ? 0 : Posto_Nel_File(programma, schermo, dove), true);
 }
 
 void Cerca_Voce(Programma& programma, SchermoAnagrafica& schermo, bool oltre) {
@@ -294,7 +304,8 @@ bool Aggiungi_Voce(Programma& programma, SchermoAnagrafica& schermo) {
                            ? Accoda_Al_File(programma, schermo, valori)
                            : Scrivi_E_Salva(programma, schermo, Righe_Di(programma, schermo), valori);
   if (!scritta) return false;
-  Rileggi(programma, schermo, static_cast<std::size_t>(-1));  // the new row is the last one
+  Rileggi(programma, schermo, static_cast<std::size_t>(-1),
+          anagrafica.aggiunta == Aggiunta::Tutto_Il_File);  // the new row is the last one
   Esiti(schermo, "aggiunta", "aggiunta");
   return true;
 }
@@ -309,7 +320,7 @@ bool Modifica_Voce(Programma& programma, SchermoAnagrafica& schermo) {
   const auto r = static_cast<std::size_t>(scelta);
   const std::size_t posto = Posto_Nel_File(programma, schermo, r);
   if (!Scrivi_E_Salva(programma, schermo, r, valori)) return false;
-  Rileggi(programma, schermo, posto);
+  Rileggi(programma, schermo, posto, true);
   Esiti(schermo, "modificata", "modificata");
   return true;
 }
@@ -324,7 +335,7 @@ bool Elimina_Voce(Programma& programma, SchermoAnagrafica& schermo) {
   valori[0].clear();
   const std::size_t posto = Posto_Nel_File(programma, schermo, r);
   if (!Scrivi_E_Salva(programma, schermo, r, valori)) return false;
-  Rileggi(programma, schermo, posto);
+  Rileggi(programma, schermo, posto, true);
   Esiti(schermo, "cancellata", "cancellata");
   return true;
 }

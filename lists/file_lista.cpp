@@ -1,6 +1,8 @@
 #include "lists/file_lista.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <iterator>
 
 Percorso Percorso_Lista(const Programma& programma, Vista nome) {
   return Unisci_Percorso(programma.Cartella_Dati, nome);
@@ -20,17 +22,27 @@ void Mostra_Guasti(Programma& programma, const std::vector<Guasto_Lista>& guasti
 }
 
 std::optional<Testo> Leggi_File_Lista(Programma& programma, Vista nome) {
-  if (!Esiste_Lista(programma, nome)) return std::nullopt;
+  programma.Liste_Ignote.erase(Testo(nome));
   const Percorso percorso = Percorso_Lista(programma, nome);
   int errore = 0;
   auto contenuto = programma.disco.Leggi(percorso, &errore);
-  if (contenuto) return contenuto;
+  if (contenuto) {
+    contenuto->erase(0, contenuto->size() - Senza_Marca(*contenuto).size());
+    return contenuto;
+  }
+  // A folder or a pipe of that name isn't the list. Of a disk that doesn't answer it can't be said that the
+  // list is missing: it must not be seeded anew.
+  constexpr int non_e_un_file[] = {ENOENT, ENOTDIR, EISDIR, EINVAL, ENXIO};
+  if (std::ranges::find(non_e_un_file, errore) != std::end(non_e_un_file)) return std::nullopt;
+  programma.Liste_Ignote[Testo(nome)] = errore;
   Mostra_Guasti(programma, {{errore, percorso}});
   return Testo{};
 }
 
 int Scrivi_File_Lista(Programma& programma, Vista nome, Vista contenuto) {
   const Percorso percorso = Percorso_Lista(programma, nome);
+  if (const auto ignota = programma.Liste_Ignote.find(Testo(nome)); ignota != programma.Liste_Ignote.end())
+    return ignota->second;
   if (int errore = 0; Esiste_Lista(programma, nome) && !programma.disco.Leggi(percorso, &errore))
     return errore != 0 ? errore : EIO;
   return programma.disco.Sostituisci(percorso, contenuto);

@@ -21,8 +21,8 @@ void Mostra_Guasti(Programma& programma, const std::vector<Guasto_Lista>& guasti
 // empty.
 std::optional<Testo> Leggi_File_Lista(Programma& programma, Vista nome);
 
-// Replaces the file: 0 or the errno. A file that is there and can't be read isn't replaced: the table knows
-// nothing of what it holds.
+// Replaces the file: 0 or the errno. A file that is there and can't be read, or couldn't when its table was
+// read, isn't replaced: the table knows nothing of what it holds.
 int Scrivi_File_Lista(Programma& programma, Vista nome, Vista contenuto);
 // The same, a failure told to the operator; false then.
 bool Salva_File_Lista(Programma& programma, Vista nome, Vista contenuto);

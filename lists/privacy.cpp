@@ -36,11 +36,12 @@ std::optional<std::vector<Testo>> CaricaPrivacy(Programma& programma) {
     piattaforma.Messaggio(Testo_Percorso(file) + " non trovato...abort");
     return std::nullopt;
   }
-  if (Pulito(*contenuto).empty()) {
+  const Vista testo = Senza_Marca(*contenuto);
+  if (Pulito(testo).empty()) {
     piattaforma.Messaggio(Testo_Percorso(file) + "\nè vuoto...manca il testo della lettera"_t);
     return std::nullopt;
   }
-  const std::vector<Vista> righe = Righe(*contenuto);
+  const std::vector<Vista> righe = Righe(testo);
   return std::vector<Testo>(righe.begin(), righe.end());
 }
 

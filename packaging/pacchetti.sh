@@ -22,6 +22,14 @@ packages_test=(
   "qpdf|checks the printed PDFs"
   "poppler-utils|reads texts, positions and fonts of the printed PDFs"
 )
+packages_guide=(
+  "python3-markdown|makes HTML of the manual's text"
+  "weasyprint|makes PDF of it"
+)
+packages_fuzz=(
+  "clang|builds the fuzz targets"
+  "libclang-rt-14-dev|what runs them: libFuzzer, AddressSanitizer and UBSan"
+)
 packages_queue=(
   "cups-daemon|a print server, of which the tests start one of their own"
   "cups-client|makes its queues"
@@ -34,6 +42,10 @@ packages_screen=(
 
 packages_deb=(
   "dpkg-dev|finds the libraries that the package depends on"
+)
+
+packages_trial=(
+  "debootstrap|makes the root folder that the package is tried in"
 )
 
 # Names of those of the given "package|reason" lines that aren't installed.

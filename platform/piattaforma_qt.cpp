@@ -31,6 +31,7 @@ namespace {
 
 // A loop over thousands of rows asks to repaint at each: more often than this the eye doesn't see it.
 constexpr qint64 ms_fra_ridipinture = 30;
+constexpr qint64 ms_lavoro_lungo = 300;  // less is typing ahead, which counts
 constexpr double punti_messaggio = 13;
 
 QString Titolo(const Testo& titolo) {
@@ -51,6 +52,33 @@ QMessageBox::Icon In_Icona(Icona icona) {
       break;
   }
   return QMessageBox::NoIcon;
+}
+
+// Takes what comes from keyboard and mouse, so that no window gets it.
+class Mangia_Tasti : public QObject {
+ public:
+  Mangia_Tasti() { QCoreApplication::instance()->installEventFilter(this); }
+  bool eventFilter(QObject*, QEvent* evento) override {
+    switch (evento->type()) {
+      case QEvent::KeyPress:
+      case QEvent::KeyRelease:
+      case QEvent::ShortcutOverride:
+      case QEvent::Shortcut:
+      case QEvent::MouseButtonPress:
+      case QEvent::MouseButtonRelease:
+      case QEvent::MouseButtonDblClick:
+      case QEvent::Wheel:
+        return true;
+      default:
+        return false;
+    }
+  }
+};
+
+// What was keyed until now reaches nobody.
+void Butta_Tasti() {
+  const Mangia_Tasti mangia;
+  QCoreApplication::processEvents();
 }
 
 // The pointer is the normal one while a message stands, also in the midst of a long job.
@@ -131,6 +159,7 @@ void Piattaforma_Qt::Ridipingi() {
   Mostra_Finestre();
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   ultima_ridipintura_.start();
+  if (occupato_da_.isValid() && occupato_da_.elapsed() > ms_lavoro_lungo) lavoro_lungo_ = true;
 }
 
 void Piattaforma_Qt::Attendi(double secondi) {
@@ -143,10 +172,16 @@ void Piattaforma_Qt::Attendi(double secondi) {
 void Piattaforma_Qt::Occupato(bool si) {
   const bool gia = QApplication::overrideCursor() != nullptr;
   if (si == gia) return;
-  if (si)
+  if (si) {
     QApplication::setOverrideCursor(Qt::WaitCursor);
-  else
-    QApplication::restoreOverrideCursor();
+    occupato_da_.start();
+    return;
+  }
+  // Otherwise a second F2 while all the documents come out would bring them all out again.
+  if (lavoro_lungo_) Butta_Tasti();
+  lavoro_lungo_ = false;
+  occupato_da_.invalidate();
+  QApplication::restoreOverrideCursor();
 }
 
 Data Piattaforma_Qt::Oggi() {

@@ -27,5 +27,6 @@ class Piattaforma_Qt : public Piattaforma {
 
  private:
   Printer& dispositivo_;
-  QElapsedTimer ultima_ridipintura_;
+  QElapsedTimer ultima_ridipintura_, occupato_da_;
+  bool lavoro_lungo_ = false;  // the present one repaints the screen, and has done so for a while
 };

@@ -221,7 +221,7 @@ bool EsportaPrimaNota(Programma& programma, bool taglia_zona, const Scelta_Drive
     programma.piattaforma.Messaggio(Testo_Guasto(errore, "il salvataggio", file));
     return false;
   }
-  programma.piattaforma.Messaggio(Testo_Esito(esito, file));
+  programma.piattaforma.Messaggio(Testo_Esito(esito, file), Icona::Informazione);
   Di_Senza_Numero(programma, esito.senza_numero);
   Mostra_File(programma, file);
   return true;

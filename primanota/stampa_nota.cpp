@@ -55,6 +55,32 @@ void Scrivi(const Foglio_In_Stampa& carta, float x, float y, Vista testo, float 
   carta.printer.Print(testo);
 }
 
+// The beginning of a text that fits, up to a blank where there is one.
+Vista Parte_Che_Sta(Printer& printer, Vista testo, float larghezza) {
+  std::size_t fine = testo.size();
+  while (fine > 1 && printer.TextWidth(testo.substr(0, fine)) > larghezza) --fine;
+  if (fine == testo.size()) return testo;
+  const std::size_t blank = testo.rfind(' ', fine);
+  return testo.substr(0, blank == Vista::npos || blank == 0 ? fine : blank);
+}
+
+// Goods are traced by their lot, so none of it runs off the sheet: one too long in the smallest letters goes
+// over several lines, which have room between two rows.
+void Scrivi_Lotto(const Foglio_In_Stampa& carta, float y, Vista lotto) {
+  constexpr int linee = 3;
+  constexpr float passo = 1.9F;
+  const float x = carta.X(carta.Lotto() + aria), larghezza = larghezza_lotto - 2 * aria;
+  Adatta(carta.printer, lotto, larghezza, punti_righe);
+  for (int linea = 1; linea <= linee; ++linea, y += passo) {
+    const Vista parte = linea == linee ? lotto : Parte_Che_Sta(carta.printer, lotto, larghezza);
+    carta.printer.CurrentX = x;
+    carta.printer.CurrentY = y;
+    carta.printer.Print(parte);
+    lotto = Pulito(lotto.substr(parte.size()));
+    if (lotto.empty()) return;
+  }
+}
+
 void Scrivi_Destra(const Foglio_In_Stampa& carta, const Colonna& colonna, float y, Vista testo) {
   Adatta(carta.printer, testo, colonna.larghezza - aria, punti_righe);
   StampaDestra(carta.printer, carta.X(colonna.sinistra), y, colonna.larghezza - aria, testo);
@@ -117,7 +143,7 @@ void Disegna_Riga(const Foglio_In_Stampa& carta, const Riga_Nota& riga, int line
   Scrivi_Destra(carta, prezzo, y, riga.Prezzo);
   Scrivi(carta, carta.X(sinistra_compratore + aria), y, ClienteMostrato(riga.Codice, riga.Cliente),
          carta.Lotto() - sinistra_compratore - 2 * aria);
-  Scrivi(carta, carta.X(carta.Lotto() + aria), y, riga.Lotto, larghezza_lotto - 2 * aria);
+  Scrivi_Lotto(carta, y, riga.Lotto);
   if (!riga.accredito) return;
   // nothing else stands on this line, so that the text may run on over the columns of the numbers
   Scrivi(carta, carta.X(prodotto.sinistra + aria), carta.Linea(linea + 1),

@@ -113,12 +113,12 @@ void Printer::NewPage() {
   Comincia_Pagina();
 }
 
-void Printer::EndDoc() {
+bool Printer::EndDoc() {
   mancato_.reset();
-  if (!aperto_) return;
+  if (!aperto_) return false;
   aperto_ = false;
   CurrentX = CurrentY = 0;
-  Finisci_Documento();
+  return Finisci_Documento();
 }
 
 bool Printer::Scegli(const Testo& nome, int orientamento) {

@@ -106,7 +106,8 @@ class Printer {
               float aspetto = 1);
   void PaintPicture(const Immagine& immagine, float x, float y, float larghezza, float altezza);
   void NewPage();
-  void EndDoc();  // nothing without an open document
+  // False where nothing came out: no printer, or a PDF that couldn't be written. The device has told it.
+  bool EndDoc();
 
   // ---- the choice of the printer
   virtual std::vector<Testo> Stampanti() = 0;  // names, "PDF" always among them
@@ -125,7 +126,7 @@ class Printer {
   // Documents and pages. False from Inizia_Documento: there is no printer, and nothing is asked to be drawn.
   virtual bool Inizia_Documento() = 0;
   virtual void Inizia_Pagina(int pagina, int orientamento) = 0;  // from 1; the first one too
-  virtual void Finisci_Documento() = 0;
+  virtual bool Finisci_Documento() = 0;                          // false: the document is lost
   // Within a page. The position of a text is the top left corner of its line.
   virtual void Disegna(double x, double y, const Carattere_Stampa& carattere, Vista testo) = 0;
   virtual void Disegna(const Segno& segno) = 0;

@@ -29,6 +29,9 @@ Testo Giorno_Leggibile(Vista giorno) {
   return Testo(giorno.substr(6, 2)) + "/" + Testo(giorno.substr(4, 2)) + "/" + Testo(giorno.substr(0, 4));
 }
 
+// A name as those machines see it that don't tell the letter cases apart.
+Testo Piccolo(const Percorso& nome) { return Minuscolo(Testo_Percorso(nome)); }
+
 }  // namespace
 
 Testo Nome_Stampa(const Documento& documento) {
@@ -56,9 +59,29 @@ Testo Titolo_Stampa(const Documento& documento) {
 }
 
 Percorso File_Stampa(const Disco& disco, const Percorso& cartella, const Documento& documento) {
+  return Nomi_Stampe().Libero(disco, cartella, documento);
+}
+
+void Nomi_Stampe::Leggi(const Disco& disco, const Percorso& cartella) {
+  const auto cambiata = disco.Cambiata(cartella);
+  if (cambiata && cambiata == cambiata_ && cartella == cartella_) return;
+  cartella_ = cartella;
+  cambiata_ = cambiata;
+  presi_.clear();
+  for (const Percorso& nome : disco.Elenca(cartella, "*.pdf")) presi_.insert(Piccolo(nome));
+  for (const Percorso& nome : disco.Elenca_Cartelle(cartella)) presi_.insert(Piccolo(nome));
+}
+
+Percorso Nomi_Stampe::Libero(const Disco& disco, const Percorso& cartella, const Documento& documento) {
+  Leggi(disco, cartella);
   const Testo nome = Nome_Stampa(documento);
   Percorso file = Unisci_Percorso(cartella, nome + ".pdf");
-  for (int n = 2; disco.Esiste_File(file) || disco.Esiste_Cartella(file); ++n)
+  for (int n = 2; presi_.contains(Piccolo(file.filename())); ++n)
     file = Unisci_Percorso(cartella, nome + " (" + std::to_string(n) + ").pdf");
   return file;
+}
+
+void Nomi_Stampe::Scritto(const Disco& disco, const Percorso& file) {
+  presi_.insert(Piccolo(file.filename()));
+  cambiata_ = disco.Cambiata(cartella_);
 }

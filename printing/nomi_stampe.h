@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <set>
+
 #include "core/disco.h"
 #include "printing/documento.h"
 
@@ -18,3 +21,18 @@ Testo Titolo_Stampa(const Documento& documento);
 // Where a new PDF goes: in `cartella`, under its name; where a file has that name already, under the first
 // free one of "... (2)", "... (3)", so that a second print never takes the place of one that was handed out.
 Percorso File_Stampa(const Disco& disco, const Percorso& cartella, const Documento& documento);
+
+// The same over a run of many documents. The folder holds the prints of years: it is read anew only when
+// somebody else has changed it.
+class Nomi_Stampe {
+ public:
+  Percorso Libero(const Disco& disco, const Percorso& cartella, const Documento& documento);
+  void Scritto(const Disco& disco, const Percorso& file);  // what Libero gave has become a file
+
+ private:
+  void Leggi(const Disco& disco, const Percorso& cartella);
+
+  Percorso cartella_;
+  std::optional<std::filesystem::file_time_type> cambiata_;
+  std::set<Testo> presi_;  // files and folders, in small letters
+};

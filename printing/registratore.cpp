@@ -106,7 +106,10 @@ void Registratore::Inizia_Pagina(int pagina, int orientamento) {
                             Piano(carta.larghezza, '.') + "x" + Piano(carta.altezza, '.'));
 }
 
-void Registratore::Finisci_Documento() { registro_.righe.emplace_back("fine"); }
+bool Registratore::Finisci_Documento() {
+  registro_.righe.emplace_back("fine");
+  return true;
+}
 
 void Registratore::Scrivi(Vista cosa) {
   registro_.righe.push_back("p" + std::to_string(pagina_) + " " + Testo(cosa));

@@ -49,7 +49,7 @@ class Registratore : public Printer {
   bool Prendi_Stampante(const Testo& nome) override;
   bool Inizia_Documento() override;
   void Inizia_Pagina(int pagina, int orientamento) override;
-  void Finisci_Documento() override;
+  bool Finisci_Documento() override;
   void Disegna(double x, double y, const Carattere_Stampa& carattere, Vista testo) override;
   void Disegna(const Segno& segno) override;
   void Disegna(const Ovale& ovale) override;

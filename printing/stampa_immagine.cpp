@@ -55,6 +55,24 @@ void Riempi_Stampanti(const Programma& programma, FrmStampaFCPB& schermo) {
   schermo.cboPrinterNames.scelta = in_uso == nomi.end() ? -1 : static_cast<int>(in_uso - nomi.begin());
 }
 
+void Leggi_Foglio(const Programma& programma, FrmStampaFCPB& schermo) {
+  const Printer& printer = Dispositivo(programma);
+  schermo.foglio = printer.Carta_In_Uso();
+  const bool orizzontale = printer.Orientation() == Orizzontale;
+  schermo.fraFoglio.testo =
+      " Foglio: " + Testo(Nome_Carta(schermo.foglio.larghezza, schermo.foglio.altezza)) +
+      (orizzontale ? ",  Landscape" : ",  Portrait");
+  schermo.Altezza.testo = Misura(programma, "Altezza:", schermo.foglio.altezza);
+  schermo.Larghezza.testo = Misura(programma, "Larghezza:", schermo.foglio.larghezza);
+  Mostra_Scala(programma, schermo);
+}
+
+void Ricorda_Stampante(const Programma& programma, FrmStampaFCPB& schermo) {
+  const Printer& printer = Dispositivo(programma);
+  schermo.stampante_prima = schermo.cboPrinterNames.Scelta();
+  schermo.orientamento_prima = printer.Orientation();
+}
+
 void Scrivi_Didascalie(FrmStampaFCPB& schermo) {
   schermo.Caption_NCopies.testo = "N. &di copie:";
   schermo.Caption_Scala.testo = "Sca&la:";
@@ -91,7 +109,8 @@ bool StampaFCPB(const Programma& programma, FrmStampaFCPB& schermo, Vista nome, 
   Scrivi_Didascalie(schermo);
   schermo.txtNCopies.testo = "1";
   Riempi_Stampanti(programma, schermo);
-  LeggiFoglio(programma, schermo);
+  Ricorda_Stampante(programma, schermo);
+  Leggi_Foglio(programma, schermo);
   // At first as large as the sheet allows, without a question: nobody has asked for a size yet.
   schermo.scala = std::min(100.0, Scala_Massima(schermo));
   Mostra_Scala(programma, schermo);
@@ -105,18 +124,6 @@ Posto_Immagine Posto_Sul_Foglio(const FrmStampaFCPB& schermo) {
   posto.x = (schermo.foglio.larghezza_stampabile - posto.larghezza) / 2;
   posto.y = (schermo.foglio.altezza_stampabile - posto.altezza) / 2;
   return posto;
-}
-
-void LeggiFoglio(const Programma& programma, FrmStampaFCPB& schermo) {
-  const Printer& printer = Dispositivo(programma);
-  schermo.foglio = printer.Carta_In_Uso();
-  const bool orizzontale = printer.Orientation() == Orizzontale;
-  schermo.fraFoglio.testo =
-      " Foglio: " + Testo(Nome_Carta(schermo.foglio.larghezza, schermo.foglio.altezza)) +
-      (orizzontale ? ",  Landscape" : ",  Portrait");
-  schermo.Altezza.testo = Misura(programma, "Altezza:", schermo.foglio.altezza);
-  schermo.Larghezza.testo = Misura(programma, "Larghezza:", schermo.foglio.larghezza);
-  Mostra_Scala(programma, schermo);
 }
 
 void ConfermaScala(const Programma& programma, FrmStampaFCPB& schermo) {
@@ -137,7 +144,17 @@ void CambiaStampante(const Programma& programma, FrmStampaFCPB& schermo) {
     Riempi_Stampanti(programma, schermo);
     return;
   }
-  LeggiFoglio(programma, schermo);
+  Leggi_Foglio(programma, schermo);
+  Adatta_Al_Foglio(programma, schermo);
+}
+
+void RiprendiDaProprieta(const Programma& programma, FrmStampaFCPB& schermo) {
+  const Testo prima = schermo.cboPrinterNames.Scelta();
+  const int orientamento = Dispositivo(programma).Orientation();
+  Riempi_Stampanti(programma, schermo);
+  Leggi_Foglio(programma, schermo);
+  if (schermo.cboPrinterNames.Scelta() == prima && schermo.orientamento_prima == orientamento) return;
+  Ricorda_Stampante(programma, schermo);
   Adatta_Al_Foglio(programma, schermo);
 }
 
@@ -167,4 +184,10 @@ void ApplicaEChiudi(const Programma& programma, FrmStampaFCPB& schermo) {
   programma.piattaforma.Messaggio("la stampante corrente è "_t + NomeStampante(Dispositivo(programma)),
                                   Icona::Informazione);
   schermo.chiusa = true;
+}
+
+void LasciaStampante(const Programma& programma, const FrmStampaFCPB& schermo) {
+  if (schermo.chiusa || schermo.cboPrinterNames.Scelta() == schermo.stampante_prima) return;
+  // one that is gone meanwhile can't come back
+  Dispositivo(programma).Scegli(schermo.stampante_prima, schermo.orientamento_prima);
 }

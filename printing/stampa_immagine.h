@@ -22,7 +22,9 @@ struct FrmStampaFCPB {
   double larghezza = 0, altezza = 0;  // of the picture at 100 per cent, millimetres
   double scala = 100;                 // per cent, in force
   Carta foglio;                       // of the printer in use
-  bool chiusa = false;                // the window goes
+  Testo stampante_prima;              // in use when the screen opened, or chosen in the properties since
+  int orientamento_prima = 0;
+  bool chiusa = false;  // the window goes
 };
 
 // Millimetres from the corner of the printable area.
@@ -40,7 +42,9 @@ Posto_Immagine Posto_Sul_Foglio(const FrmStampaFCPB& schermo);
 // no number above 0 is told, and the one in force comes back.
 void ConfermaScala(const Programma& programma, FrmStampaFCPB& schermo);
 void CambiaStampante(const Programma& programma, FrmStampaFCPB& schermo);  // another entry of cboPrinterNames
-void LeggiFoglio(const Programma& programma,
-                 FrmStampaFCPB& schermo);  // paper or orientation may have changed
+// After cmdProprieta, where printer and orientation may have been changed for good.
+void RiprendiDaProprieta(const Programma& programma, FrmStampaFCPB& schermo);
 void Print_FCPB(const Programma& programma, FrmStampaFCPB& schermo);
 void ApplicaEChiudi(const Programma& programma, FrmStampaFCPB& schermo);  // cmdChiudi
+// Closed without cmdChiudi: the printer chosen for the picture doesn't stay that of the program.
+void LasciaStampante(const Programma& programma, const FrmStampaFCPB& schermo);

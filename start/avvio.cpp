@@ -1,5 +1,7 @@
 #include "start/avvio.h"
 
+#include <cerrno>
+
 #include "core/giorno.h"
 #include "core/numeri.h"
 #include "lists/genera.h"
@@ -42,6 +44,15 @@ int Errore_Scrittura_Cartella(const Programma& programma) {
   const int errore = programma.disco.Sovrascrivi(prova, "\r\n");
   if (errore == 0) programma.disco.Cancella(prova);
   return errore;
+}
+
+// What a save leaves behind that a power cut or a crash has stopped: in the firm's folder and in those right
+// inside, where nobody else writes while the lock is held.
+void Togli_Resti(const Programma& programma) {
+  const Disco& disco = programma.disco;
+  disco.Togli_Provvisori(programma.Cartella_Dati);
+  for (const Percorso& nome : disco.Elenca_Cartelle(programma.Cartella_Dati))
+    disco.Togli_Provvisori(programma.Cartella_Dati / nome);
 }
 
 bool Controlla_Scrittura(Programma& programma) {
@@ -111,8 +122,15 @@ void Rinnova_Liste(Programma& programma) {
 }
 
 void Leggi_Ragione(Programma& programma) {
-  const Testo contenuto = programma.disco.Leggi(Nella_Cartella(programma, Ragione_Attuale)).value_or(Testo());
-  const std::vector<Vista> righe = Righe(contenuto);
+  const Percorso file = Nella_Cartella(programma, Ragione_Attuale);
+  int errore = 0;
+  const Testo contenuto = programma.disco.Leggi(file, &errore).value_or(Testo());
+  // Documents without the firm's name would go out unnoticed.
+  if (errore != 0 && errore != ENOENT)
+    programma.piattaforma.Messaggio(
+        "L'intestazione della ditta non si può leggere: i documenti ne sono senza\n"_t +
+        Testo_Percorso(file) + "\n" + Testo_Errore(errore));
+  const std::vector<Vista> righe = Righe(Senza_Marca(contenuto));
   for (std::size_t i = 0; i < programma.Ragione.size(); ++i)
     programma.Ragione[i] = i < righe.size() ? Testo(righe[i]) : Testo();
 }
@@ -158,6 +176,7 @@ EsitoAvvio Avvia(Programma& programma, const Percorso& cartella, Blocco_Cartella
   }
   piattaforma.Occupato(true);
   Fissa_Valori(programma, cartella);
+  Togli_Resti(programma);
   const bool scrivibile = Controlla_Scrittura(programma);
   Prepara_Impostazioni(programma, scrivibile, chiedi);
   const bool pronto = Prepara_File(programma, scrivibile);
@@ -202,9 +221,11 @@ bool Scrivi_Primo_Avvio(Programma& programma, const PrimoAvvio& dati) {
   // A blank code leaves the default, a stall number that is none is asked again with the settings.
   const Testo codice = Testo(Pulito(Senza_Separatori(dati.codice)));
   const Testo posteggio = Testo(Pulito(Senza_Separatori(dati.posteggio)));
-  bool scritte = codice.empty() || Scrivi_Chiave(programma, "CodiceCOM", codice);
+  std::vector<std::pair<Testo, Testo>> chiavi;
+  if (!codice.empty()) chiavi.emplace_back("CodiceCOM", codice);
   if (Numero(posteggio, programma.Separatore_Decimale).value_or(0) > 0)
-    scritte = Scrivi_Chiave(programma, "nposteggio", posteggio) && scritte;
+    chiavi.emplace_back("nposteggio", posteggio);
+  const bool scritte = chiavi.empty() || Scrivi_Chiavi(programma, chiavi);
   if (!scritte)
     programma.piattaforma.Messaggio("Non si possono scrivere le impostazioni nel file\n" +
                                     Testo_Percorso(programma.File_Ini));

@@ -10,7 +10,6 @@ namespace {
 int Copia_E_Confronta(const Programma& programma, const Percorso& radice, const Percorso& da,
                       const Percorso& a) {
   const Disco& disco = programma.disco;
-  if (const int errore = disco.Crea_Cartella(a.parent_path()); errore != 0) return errore;
   if (const int errore = Copia_Sul_Volume(programma, radice, da, a); errore != 0) return errore;
   int errore = 0;
   const auto copiato = disco.Leggi(a, &errore);

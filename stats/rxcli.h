@@ -23,6 +23,7 @@ struct RXcli {
   Elenco ListaClienti;  // their names; choosing one finds its line
   Bottone Stampa, Salva, StampaGrafico, Chiudi;
   Spunta SoloPeso;  // the print leaves the amounts out
+  Scritta Avviso;   // rows that can't be read as numbers
   Grafico grafico;
 
   std::vector<Totale_Cliente> totali;

@@ -20,29 +20,35 @@ Percorso Temporaneo(const Programma& programma) {
 
 // ---- the checks before a run
 
-bool Date_Giuste(Programma& programma, const RXFor& schermo) {
-  if (!In_Forma_AAAAMMGG(schermo.da) || !In_Forma_AAAAMMGG(schermo.a)) {
+struct Intervallo {
+  Testo da, a;
+};
+
+bool Date_Giuste(Programma& programma, const Intervallo& date) {
+  if (!In_Forma_AAAAMMGG(date.da) || !In_Forma_AAAAMMGG(date.a)) {
     programma.piattaforma.Messaggio("Sistemare le date nel formato aaaammgg");
     return false;
   }
-  if (Sinistra(schermo.da, cifre_anno) != Sinistra(schermo.a, cifre_anno)) {
+  if (Sinistra(date.da, cifre_anno) != Sinistra(date.a, cifre_anno)) {
     programma.piattaforma.Messaggio("deve essere lo stesso anno");
     return false;
   }
   return true;
 }
 
-bool Dentro_L_Anno(Programma& programma, const RXFor& schermo, const std::vector<Percorso>& nomi) {
+// Both dates, in whichever order they stand: a first day behind the last file is no less wrong than a last
+// one.
+bool Dentro_L_Anno(Programma& programma, const Intervallo& date, const std::vector<Percorso>& nomi) {
   if (nomi.empty()) {
     programma.piattaforma.Messaggio(" non ci sono dati...nulla da fare");
     return false;
   }
-  if (schermo.da < Giorno_Del_File(nomi.front())) {
+  if (std::min(date.da, date.a) < Giorno_Del_File(nomi.front())) {
     programma.piattaforma.Messaggio("primo file: sistemare le date da...a (il primo file è "_t +
                                     Nome_File(nomi.front()) + ")");
     return false;
   }
-  if (schermo.a > Giorno_Del_File(nomi.back())) {
+  if (std::max(date.da, date.a) > Giorno_Del_File(nomi.back())) {
     programma.piattaforma.Messaggio("ultimo file: sistemare le date da...a (il primo file è "_t +
                                     Nome_File(nomi.back()) + ")");
     return false;
@@ -58,13 +64,12 @@ struct Periodo {
   bool confermato = false;
 };
 
-Periodo Chiedi_Periodo(Programma& programma, const RXFor& schermo, const std::vector<Percorso>& nomi) {
+Periodo Chiedi_Periodo(Programma& programma, const Intervallo& date, const std::vector<Percorso>& nomi) {
   const auto primo =
-      std::ranges::find_if(nomi, [&](const Percorso& nome) { return Giorno_Del_File(nome) >= schermo.da; });
+      std::ranges::find_if(nomi, [&](const Percorso& nome) { return Giorno_Del_File(nome) >= date.da; });
   const auto dopo = std::find_if(nomi.begin(), nomi.end(),
-                                 [&](const Percorso& nome) { return Giorno_Del_File(nome) > schermo.a; });
+                                 [&](const Percorso& nome) { return Giorno_Del_File(nome) > date.a; });
   Periodo periodo;
-  if (primo == nomi.end() || dopo == nomi.begin()) return periodo;
   periodo.confermato =
       programma.piattaforma.Domanda("Il calcolo comincia da:\n" + Nome_File(*primo) +
                                     "e finisce con: " + Nome_File(*(dopo - 1)) + "..... OK per continuare");
@@ -80,8 +85,6 @@ void Vuota(RXFor& schermo) {
   schermo.Avanzamento.testo.clear();
   schermo.Avviso.testo.clear();
   Riempi_Grafico(schermo.grafico, {}, {});
-  schermo.da = Pulito(schermo.Text1.testo);
-  schermo.a = Pulito(schermo.Text2.testo);
 }
 
 double Importo_Totale(const RXFor& schermo) {
@@ -145,6 +148,25 @@ void Carica_Vet_Temp1(Scansione& scansione, RXFor& schermo) {
   schermo.Avanzamento.testo = "1 - righe lette";
 }
 
+// `errore` is that of an old temporary file that couldn't be deleted: then none is written.
+void Leggi_E_Mostra(Programma& programma, RXFor& schermo, const std::vector<Percorso>& nomi, int errore) {
+  Scansione scansione(programma, {.per_specie = true,
+                                  .primo_sbarco = schermo.Check3.segnata,
+                                  .provvisorio = errore == 0 ? Temporaneo(programma) : Percorso()});
+  const bool finita = Leggi_Periodo(programma, scansione, nomi, schermo.Avanzamento, schermo.fermata);
+  if (errore == 0) errore = scansione.Chiudi();
+  if (!finita) {
+    programma.disco.Cancella(Temporaneo(programma));
+    schermo.Avanzamento.testo = "calcolo interrotto";
+    return;
+  }
+  Carica_Vet_Temp1(scansione, schermo);
+  Ordina_Totali(schermo.Vet_Temp1);
+  Mostra_Saldi(programma, schermo);
+  if (errore != 0) Di_Errore_Temporaneo(programma, errore);
+  programma.piattaforma.Messaggio("fatto...");
+}
+
 }  // namespace
 
 Testo Riga_Saldo(const Totale& totale, bool con_specie, char separatore) {
@@ -204,29 +226,17 @@ void Calcola_Saldo(Programma& programma, RXFor& schermo) {
     programma.piattaforma.Messaggio("Scegliere le opzioni (fornitori o specie e fornitori...");
     return;
   }
-  Vuota(schermo);
-  const int cancellato = programma.disco.Cancella(Temporaneo(programma));
-  const bool si_scrive = cancellato == 0 || cancellato == ENOENT;
-  if (!Date_Giuste(programma, schermo)) return;
+  const int errore = programma.disco.Cancella(Temporaneo(programma));
+  const Intervallo date = {Testo(Pulito(schermo.Text1.testo)), Testo(Pulito(schermo.Text2.testo))};
+  if (!Date_Giuste(programma, date)) return;
   const std::vector<Percorso> nomi = File_Dell_Anno(programma);
-  if (!Dentro_L_Anno(programma, schermo, nomi)) return;
-  const Periodo periodo = Chiedi_Periodo(programma, schermo, nomi);
+  if (!Dentro_L_Anno(programma, date, nomi)) return;
+  const Periodo periodo = Chiedi_Periodo(programma, date, nomi);
   if (!periodo.confermato) return;
-  Scansione scansione(programma, {.per_specie = true,
-                                  .primo_sbarco = schermo.Check3.segnata,
-                                  .provvisorio = si_scrive ? Temporaneo(programma) : Percorso()});
-  if (!Leggi_Periodo(programma, scansione, periodo.nomi, schermo.Avanzamento, schermo.fermata)) {
-    scansione.Chiudi();
-    programma.disco.Cancella(Temporaneo(programma));
-    schermo.Avanzamento.testo = "calcolo interrotto";
-    return;
-  }
-  const int scritto = si_scrive ? scansione.Chiudi() : cancellato;
-  Carica_Vet_Temp1(scansione, schermo);
-  Ordina_Totali(schermo.Vet_Temp1);
-  Mostra_Saldi(programma, schermo);
-  if (scritto != 0) Di_Errore_Temporaneo(programma, scritto);
-  programma.piattaforma.Messaggio("fatto...");
+  Vuota(schermo);
+  schermo.da = date.da;
+  schermo.a = date.a;
+  Leggi_E_Mostra(programma, schermo, periodo.nomi, errore == ENOENT ? 0 : errore);
 }
 
 void Stampa_Saldo(Programma& programma, RXFor& schermo) {

@@ -241,9 +241,7 @@ bool Leggi_Periodo(Programma& programma, Scansione& scansione, std::span<const P
 }
 
 Testo Mancanze(const Scansione& scansione) {
-  Testo testo;
-  if (scansione.Righe_Senza_Numero() > 0)
-    testo = "righe senza peso o prezzo leggibile: " + std::to_string(scansione.Righe_Senza_Numero());
+  Testo testo = Righe_Illeggibili(scansione.Righe_Senza_Numero());
   if (scansione.Illeggibili().empty()) return testo;
   testo += testo.empty() ? "file non letti:" : "   file non letti:";
   for (const Testo& nome : scansione.Illeggibili()) testo += " " + nome;

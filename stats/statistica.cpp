@@ -34,12 +34,24 @@ void Metti_Media(LedgerRow& riga, char separatore) {
   if (totale && peso && *peso != 0) riga[NCV] = Formato(*totale / *peso, importo, separatore);
 }
 
+// A text that is no number would keep its place in a sum and take the neighbours with it; so rows that can't
+// be read come last in their group, and those that can be are all added.
+void Illeggibili_In_Fondo(std::vector<LedgerRow>& righe, char separatore) {
+  const auto mancanze = [&](const LedgerRow& riga) {
+    if (!Numero(riga[Peso], separatore)) return 2;
+    return Numero(riga[Prezzo], separatore) ? 0 : 1;
+  };
+  std::ranges::stable_sort(righe, {}, mancanze);
+}
+
 void Calcola(const Programma& programma, Statistica& schermo) {
   if (std::exchange(schermo.calcolata, true)) return;
   const char separatore = programma.Separatore_Decimale;
   std::vector<LedgerRow>& righe = schermo.Vet_Statistica;
   righe = programma.Vet_Tabella.righe;
   std::erase_if(righe, Senza_Vendita);
+  schermo.Avviso.testo = Righe_Illeggibili(righe, separatore);
+  Illeggibili_In_Fondo(righe, separatore);
   for (LedgerRow& riga : righe) Metti_Importo(riga, separatore);
   Consolida(righe, {Fornitore, Specie}, {Peso, Colli}, separatore);
   for (LedgerRow& riga : righe) Metti_Media(riga, separatore);

@@ -17,6 +17,7 @@ struct Statistica {
   Elenco ListaFornitori;   // each supplier once
   Bottone Chiudi, Salva, Stampa, stampaFornitore, Aiuto, StampaGrafico;
   Spunta Grassetto;  // bold print
+  Scritta Avviso;    // rows that can't be read as numbers
   Grafico grafico;
 
   // The copy, one row for each supplier and species: Peso the kilograms, Colli the amount, NCV the average

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <optional>
 
+#include "core/numeri.h"
+
 namespace {
 
 constexpr double mille = 1000, milione = 1e6;
@@ -23,6 +25,19 @@ bool Senza_Vendita(const LedgerRow& riga) {
   if (Uguali(riga[CampoRiga::Fornitore], Riga_Vuota)) return true;
   constexpr CampoRiga campi[] = {CampoRiga::Fornitore, CampoRiga::Specie, CampoRiga::Peso, CampoRiga::Prezzo};
   return std::ranges::all_of(campi, [&](CampoRiga campo) { return Pulito(riga[campo]).empty(); });
+}
+
+Testo Righe_Illeggibili(int senza_numero) {
+  if (senza_numero == 0) return {};
+  return "righe senza peso o prezzo leggibile: " + std::to_string(senza_numero);
+}
+
+Testo Righe_Illeggibili(const std::vector<LedgerRow>& righe, char separatore) {
+  const auto illeggibile = [&](const LedgerRow& riga) {
+    return !Senza_Vendita(riga) &&
+           !(Numero(riga[CampoRiga::Peso], separatore) && Numero(riga[CampoRiga::Prezzo], separatore));
+  };
+  return Righe_Illeggibili(static_cast<int>(std::ranges::count_if(righe, illeggibile)));
 }
 
 void Somma_Esatta::Aggiungi(double valore) {

@@ -5,6 +5,8 @@
 
 namespace {
 
+bool Dischetto(const Volume& volume) { return Uguali(volume.lettera, "a:") || Uguali(volume.lettera, "b:"); }
+
 // Without a separator at the end.
 Percorso Normale(const Percorso& percorso) {
   Percorso esito = percorso.lexically_normal();
@@ -28,6 +30,8 @@ bool Montato(const Programma& programma, const Percorso& radice) {
 template <class Lavoro>
 int Col_Volume(const Programma& programma, const Percorso& radice, const Lavoro& lavoro) {
   if (!Montato(programma, radice)) return ENODEV;
+  // a list of volumes may lag behind
+  if (!radice.empty() && !programma.disco.Esiste_Cartella(radice)) return ENOENT;
   if (const int errore = lavoro()) return errore;
   return Montato(programma, radice) ? 0 : ENODEV;
 }
@@ -37,24 +41,24 @@ struct Spiegazione {
   Testo testo;
 };
 
+std::vector<Spiegazione> Componi_Spiegazioni() {
+  const Testo pieno = "il disco è pieno"_t;
+  const Testo protetto = "il disco è protetto da scrittura"_t;
+  const Testo chiuso = "non è permesso scrivere qui"_t;
+  const Testo sparito = "il disco non c'è più: il file potrebbe mancare"_t;
+  const Testo mancante = "il disco o la cartella non c'è più"_t;
+  const Testo guasto = "il disco è guasto, o è stato tolto"_t;
+  return std::vector<Spiegazione>{{ENOSPC, pieno},    {EDQUOT, pieno}, {EFBIG, pieno},    {EROFS, protetto},
+                                  {EACCES, chiuso},   {EPERM, chiuso}, {ENODEV, sparito}, {ENXIO, sparito},
+                                  {ENOENT, mancante}, {EIO, guasto}};
+}
+
 const std::vector<Spiegazione>& Spiegazioni() {
-  static const std::vector<Spiegazione> tutte = [] {
-    const Testo pieno = "il disco è pieno"_t;
-    const Testo protetto = "il disco è protetto da scrittura"_t;
-    const Testo chiuso = "non è permesso scrivere qui"_t;
-    const Testo sparito = "il disco non c'è più: il file potrebbe mancare"_t;
-    const Testo mancante = "il disco o la cartella non c'è più"_t;
-    const Testo guasto = "il disco è guasto, o è stato tolto"_t;
-    return std::vector<Spiegazione>{{ENOSPC, pieno},    {EDQUOT, pieno}, {EFBIG, pieno},    {EROFS, protetto},
-                                    {EACCES, chiuso},   {EPERM, chiuso}, {ENODEV, sparito}, {ENXIO, sparito},
-                                    {ENOENT, mancante}, {EIO, guasto}};
-  }();
+  static const std::vector<Spiegazione> tutte = Componi_Spiegazioni();
   return tutte;
 }
 
 }  // namespace
-
-bool Dischetto(const Volume& volume) { return Uguali(volume.lettera, "a:") || Uguali(volume.lettera, "b:"); }
 
 Testo Voce_Volume(const Volume& volume) {
   if (Dischetto(volume)) return Minuscolo(volume.lettera) + "[Dischetto Floppy]";
@@ -82,7 +86,10 @@ int Scrivi_Sul_Volume(const Programma& programma, const Percorso& radice, const 
 
 int Copia_Sul_Volume(const Programma& programma, const Percorso& radice, const Percorso& da,
                      const Percorso& a) {
-  return Col_Volume(programma, radice, [&] { return programma.disco.Copia(da, a); });
+  return Col_Volume(programma, radice, [&] {
+    const int errore = programma.disco.Crea_Cartella(a.parent_path());
+    return errore != 0 ? errore : programma.disco.Copia(da, a);
+  });
 }
 
 Testo Testo_Guasto(int errore, Vista che_cosa, const Percorso& file) {

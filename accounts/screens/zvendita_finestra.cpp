@@ -24,10 +24,14 @@ namespace {
 constexpr double punti_anteprima = 8.25;
 constexpr int caratteri_lista = 74;
 
-struct Casella {
-  const char* nome;
-  Spunta& stato;
-};
+// A box that takes the screen's colour.
+QCheckBox* Fa_Casella(const Spunta& stato) {
+  auto* casella = new QCheckBox(In_QString(stato.didascalia));
+  casella->setFont(Carattere(punti_normali));
+  casella->setBackgroundRole(QPalette::Window);
+  casella->setForegroundRole(QPalette::WindowText);
+  return casella;
+}
 
 QGroupBox* Riquadro_Titolato(const QString& titolo) {
   auto* riquadro = new QGroupBox(titolo);
@@ -45,13 +49,13 @@ ZvenditaFinestra::ZvenditaFinestra(Programma& programma, QWidget* padre)
 
   auto* schermo = new QWidget;
   legame.lega(schermo, QStringLiteral("Schermo"), zvendita_.Schermo);
-  auto* sovrapposti = new QVBoxLayout(schermo);
+  auto* sovrapposti = new QGridLayout(schermo);  // one over the other, so that the window keeps its size
   sovrapposti->setContentsMargins(18, 14, 18, 14);
-  sovrapposti->addWidget(fa_pannello(), 1);
+  sovrapposti->addWidget(fa_pannello(), 0, 0);
   anteprima_ = new ListaVoci(punti_anteprima);
   anteprima_->setAccessibleName(QStringLiteral("Anteprima del conto vendita"));
   legame.lega(anteprima_, QStringLiteral("Anteprima"), zvendita_.Anteprima);
-  sovrapposti->addWidget(anteprima_, 1);
+  sovrapposti->addWidget(anteprima_, 0, 0);
 
   auto* tutto = new QVBoxLayout(this);
   tutto->setContentsMargins(0, 0, 0, 0);
@@ -140,18 +144,20 @@ QGroupBox* ZvenditaFinestra::fa_conto() {
 QGroupBox* ZvenditaFinestra::fa_stampa() {
   auto* riquadro = Riquadro_Titolato(QStringLiteral("Stampa"));
   auto* colonna = new QVBoxLayout(riquadro);
-  const Casella caselle[] = {
-      {"Check1", zvendita_.Check1}, {"Check3", zvendita_.Check3}, {"Check4", zvendita_.Check4}};
-  for (const auto& [nome, stato] : caselle) {
-    auto* casella = new QCheckBox(In_QString(stato.didascalia));
-    casella->setFont(Carattere(punti_normali));
-    legame.lega(casella, QString::fromUtf8(nome), stato, [this] { AggiornaComandi(zvendita_); });
-    colonna->addWidget(casella);
-  }
+  const auto casella = [&](const char* nome, Spunta& stato) {
+    auto* spunta = Fa_Casella(stato);
+    legame.lega(spunta, QString::fromUtf8(nome), stato);
+    colonna->addWidget(spunta);
+  };
+  casella("Check1", zvendita_.Check1);
+  casella("Check3", zvendita_.Check3);
+  casella("Check4", zvendita_.Check4);
   auto* copie = new QComboBox;
   copie->setFont(Carattere(punti_normali));
   copie->setAccessibleName(QStringLiteral("Copie"));
   legame.lega(copie, QStringLiteral("Combo1"), zvendita_.Combo1);
+  copie->installEventFilter(this);
+  copie_ = copie;
   colonna->addWidget(copie);
   colonna->addWidget(fa_bottone("Command2", zvendita_.Command2, [this] { StampaCV(programma_, zvendita_); }));
   return riquadro;
@@ -162,8 +168,7 @@ QGroupBox* ZvenditaFinestra::fa_opzioni() {
   legame.lega(riquadro, QStringLiteral("Riquadro_Opzioni"), zvendita_.Riquadro_Opzioni);
   auto* griglia = new QGridLayout(riquadro);
   const auto casella = [&](const char* nome, Spunta& stato, Legame::Evento evento) {
-    auto* spunta = new QCheckBox(In_QString(stato.didascalia));
-    spunta->setFont(Carattere(punti_normali));
+    auto* spunta = Fa_Casella(stato);
     legame.lega(spunta, QString::fromUtf8(nome), stato, std::move(evento));
     griglia->addWidget(spunta, griglia->rowCount(), 0, 1, 2);
   };
@@ -260,6 +265,11 @@ bool ZvenditaFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
   const int indice = indice_di(oggetto);
   if (indice >= 0 && evento->type() == QEvent::KeyPress)
     return tasto_campo(indice, *static_cast<QKeyEvent*>(evento));
+  if (oggetto == copie_ && evento->type() == QEvent::KeyPress &&
+      static_cast<QKeyEvent*>(evento)->key() == Qt::Key_F4) {
+    keyPressEvent(static_cast<QKeyEvent*>(evento));  // the list of copies would open with it
+    return true;
+  }
   if (indice >= 0 && evento->type() == QEvent::MouseButtonDblClick)
     legame.esegui([&] { DoppioClicCampo(programma_, zvendita_, indice); });
   return Finestra::eventFilter(oggetto, evento);

@@ -44,5 +44,6 @@ class ZvenditaFinestra : public Finestra {
   std::array<QLineEdit*, 8> campi_{};
   QListView* lista_ = nullptr;
   QListView* anteprima_ = nullptr;
+  QWidget* copie_ = nullptr;
   bool in_chiusura_ = false;
 };

@@ -18,7 +18,10 @@ void Scrivi(QPainter& pennello, const Scritta_Pagina& scritta) {
   double x = scritta.x * decimi;
   if (scritta.allineamento == Allineamento::Centro) x -= larghezza / 2;
   if (scritta.allineamento == Allineamento::Destra) x -= larghezza;
-  pennello.drawText(QPointF(x, scritta.y * decimi + misure.ascent()), testo);
+  double base = scritta.y * decimi + misure.ascent();
+  // A line that hangs over the upper edge comes down until it is whole, as on paper.
+  if (scritta.y < 0 && base > 0) base = qMax(base, -misure.tightBoundingRect(testo).top());
+  pennello.drawText(QPointF(x, base), testo);
 }
 
 }  // namespace

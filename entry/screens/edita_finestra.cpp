@@ -83,6 +83,7 @@ void EditaFinestra::prepara_azioni() {
       {QStringLiteral("Cancella_Tutto"), con_stato(CancellaTutto)},
       {QStringLiteral("Rinnova_Liste"), con_stato(RinnovaListe)},
       {QStringLiteral("Aiuto_Campi"), [this] { ListaCampi(programma_); }},
+      {QStringLiteral("Manuale"), [this] { ApriManuale(programma_); }},
       {QStringLiteral("Salva_Lista_Specie"), [this] { Esporta_Specie(programma_); }},
       {QStringLiteral("Chiudi"), [this] { chiudi(); }},
   };
@@ -405,8 +406,9 @@ void EditaFinestra::apri_nota_acc() {
 void EditaFinestra::apri_richiesta() {
   const auto schermo = schermi_.find(In_QString(std::exchange(edita_.schermo, {})));
   if (schermo != schermi_.end()) {
+    const LedgerRow prima = RigaCorrente(programma_, edita_);
     schermo->second();
-    legame.esegui([this] { RiprendiEdita(programma_, edita_); });
+    legame.esegui([&] { RiprendiEdita(programma_, edita_, prima); });
     return;
   }
   switch (std::exchange(edita_.richiesta, Richiesta::Nessuna)) {

@@ -1,5 +1,7 @@
 #include "invoices/screens/zfatture_finestra.h"
 
+#include <array>
+#include <tuple>
 #include <utility>
 
 #include <QBoxLayout>
@@ -14,8 +16,9 @@
 #include <QPushButton>
 
 #include "invoices/screens/diciture_finestra.h"
-#include "invoices/stampa_fatture.h"
+#include "invoices/zfatture_vettore.h"
 #include "lists/screens/parti.h"
+#include "lists/screens/vettori_finestra.h"
 #include "platform/aspetto.h"
 #include "platform/tasti_qt.h"
 #include "platform/testo_qt.h"
@@ -24,6 +27,7 @@
 namespace {
 
 constexpr int caratteri_lista = 72;  // of a line of the lists
+constexpr int caratteri_spese = 8;
 
 QGroupBox* Riquadro_Titolato(const QString& titolo) {
   auto* riquadro = new QGroupBox(titolo);
@@ -34,7 +38,7 @@ QGroupBox* Riquadro_Titolato(const QString& titolo) {
 }  // namespace
 
 ZFattureFinestra::ZFattureFinestra(Programma& programma, ZFatture zfatture, QWidget* padre)
-    : Finestra(QStringLiteral("ZFatture"), padre, Qt::Window),
+    : Finestra(In_QString(zfatture.variante->nome), padre, Qt::Window),
       programma_(programma),
       zfatture_(std::move(zfatture)) {
   setFont(Carattere(punti_normali));
@@ -42,7 +46,7 @@ ZFattureFinestra::ZFattureFinestra(Programma& programma, ZFatture zfatture, QWid
   destra->setSpacing(12);
   destra->addWidget(fa_documento());
   destra->addWidget(fa_stampa());
-  destra->addWidget(fa_filtri());
+  destra->addWidget(zfatture_.variante->spedizione ? fa_bottoni_filtri() : fa_caselle_filtri());
   destra->addStretch();
   destra->addWidget(fa_bottone(QStringLiteral("Chiudi"), zfatture_.Chiudi,
                                [this] { ChiudiFatture(programma_, zfatture_); }));
@@ -61,12 +65,17 @@ ZFattureFinestra::ZFattureFinestra(Programma& programma, ZFatture zfatture, QWid
   prima->setFocus(Qt::OtherFocusReason);
 }
 
+QAction* ZFattureFinestra::fa_voce(QWidget* menu, const char* nome, Bottone& stato, Legame::Evento evento) {
+  auto* azione = new QAction(In_QString(stato.testo), menu);
+  menu->addAction(azione);
+  legame.lega(azione, QString::fromUtf8(nome), stato, std::move(evento));
+  return azione;
+}
+
 QMenuBar* ZFattureFinestra::fa_menu() {
   auto* barra = new QMenuBar;
   const auto voce = [this](QWidget* menu, const char* nome, Bottone& stato, Legame::Evento evento) {
-    auto* azione = new QAction(In_QString(stato.testo), menu);
-    menu->addAction(azione);
-    legame.lega(azione, QString::fromUtf8(nome), stato, std::move(evento));
+    fa_voce(menu, nome, stato, std::move(evento));
   };
   const auto dello_schermo = [this](void (*routine)(Programma&, ZFatture&)) {
     return [this, routine] { routine(programma_, zfatture_); };
@@ -92,7 +101,18 @@ QMenuBar* ZFattureFinestra::fa_menu() {
        [this] { DicitureFinestra(programma_, this).esegui(); });
   voce(barra, "Scelta_Stampante", zfatture_.Scelta_Stampante,
        [this] { StampanteFinestra(programma_, this).esegui(); });
+  if (zfatture_.variante->spedizione) fa_menu_vettori(barra);
   return barra;
+}
+
+void ZFattureFinestra::fa_menu_vettori(QMenuBar* barra) {
+  const auto prende = [this](const Testo& mezzo, const std::array<Testo, 3>& vettore) {
+    legame.esegui([&] { PrendiVettore(zfatture_, mezzo, vettore); });
+  };
+  fa_voce(barra, "Vettori", zfatture_.spedizione.Vettori,
+          [this, prende] { Apri_Vettori(programma_, this, prende, [this] { activateWindow(); }); });
+  fa_voce(barra, "Mostra_Esclusi", zfatture_.spedizione.Mostra_Esclusi,
+          [this] { MostraEsclusi(programma_, zfatture_); });
 }
 
 QListView* ZFattureFinestra::fa_lista(const QString& nome, Elenco& stato, const Scritta& didascalia,
@@ -126,6 +146,7 @@ QWidget* ZFattureFinestra::fa_liste() {
   colonna->addWidget(fa_scritta(QStringLiteral("Caption_ListNA"), zfatture_.Caption_ListNA));
   colonna->addWidget(note_, 1);
   colonna->addLayout(fa_ordini());
+  if (zfatture_.variante->spedizione) colonna->addWidget(fa_trasporto());
   return parte;
 }
 
@@ -167,17 +188,20 @@ QGroupBox* ZFattureFinestra::fa_documento() {
 QGroupBox* ZFattureFinestra::fa_stampa() {
   auto* riquadro = Riquadro_Titolato(QStringLiteral("Stampa"));
   auto* griglia = new QGridLayout(riquadro);
+  const bool spedizione = zfatture_.variante->spedizione;
   griglia->addWidget(fa_casella(QStringLiteral("Tutte"), zfatture_.Tutte), 0, 0, 1, 2);
-  griglia->addWidget(fa_casella(QStringLiteral("Stampale"), zfatture_.Stampale), 1, 0);
-  griglia->addWidget(fa_casella(QStringLiteral("Paginax2"), zfatture_.Paginax2), 1, 1);
-  griglia->addWidget(fa_casella(QStringLiteral("Personalizzata"), zfatture_.Personalizzata), 2, 0);
-  griglia->addWidget(fa_casella(QStringLiteral("Check1"), zfatture_.Check1), 2, 1);
-  griglia->addWidget(fa_casella(QStringLiteral("Completa"), zfatture_.Completa), 3, 0);
+  if (!spedizione) {
+    griglia->addWidget(fa_casella(QStringLiteral("Stampale"), zfatture_.Stampale), 1, 0);
+    griglia->addWidget(fa_casella(QStringLiteral("Paginax2"), zfatture_.Paginax2), 1, 1);
+    griglia->addWidget(fa_casella(QStringLiteral("Personalizzata"), zfatture_.Personalizzata), 2, 0);
+    griglia->addWidget(fa_casella(QStringLiteral("Check1"), zfatture_.Check1), 2, 1);
+    griglia->addWidget(fa_casella(QStringLiteral("Completa"), zfatture_.Completa), 3, 0);
+  }
   auto* copie = new QComboBox;
   copie->setFont(Carattere(punti_normali));
   copie->setAccessibleName(QStringLiteral("Copie"));
   legame.lega(copie, QStringLiteral("Combo2"), zfatture_.Combo2);
-  griglia->addWidget(copie, 3, 1);
+  griglia->addWidget(copie, spedizione ? 1 : 3, spedizione ? 0 : 1, 1, spedizione ? 2 : 1);
   auto* luogo = fa_scritta(QStringLiteral("Caption_Text2"), zfatture_.Caption_Text2);
   auto* citta = fa_campo(QStringLiteral("Text2"), zfatture_.Text2, zfatture_.Caption_Text2);
   luogo->setBuddy(citta);
@@ -186,16 +210,72 @@ QGroupBox* ZFattureFinestra::fa_stampa() {
   griglia->addWidget(fa_bottone(QStringLiteral("Command3"), zfatture_.Command3,
                                 [this] { StampaFatNa(programma_, zfatture_); }),
                      5, 0, 1, 2);
-  griglia->addWidget(
-      fa_bottone(QStringLiteral("Command7"), zfatture_.Command7, [this] { Report(programma_, zfatture_); }),
-      6, 0);
+  griglia->addWidget(fa_bottone(In_QString(zfatture_.variante->nome_Report), zfatture_.Command7,
+                                [this] { Report(programma_, zfatture_); }),
+                     6, 0);
   griglia->addWidget(
       fa_bottone(QStringLiteral("Command6"), zfatture_.Command6, [this] { Archivio(programma_, zfatture_); }),
       6, 1);
   return riquadro;
 }
 
-QGroupBox* ZFattureFinestra::fa_filtri() {
+QGroupBox* ZFattureFinestra::fa_bottoni_filtri() {
+  auto* riquadro = Riquadro_Titolato(QStringLiteral("Clienti"));
+  auto* riga = new QVBoxLayout(riquadro);
+  riga->addWidget(fa_bottone(QStringLiteral("Command8"), zfatture_.spedizione.Command8,
+                             [this] { SelezionaRistoranti(programma_, zfatture_); }));
+  riga->addWidget(fa_bottone(QStringLiteral("Command7"), zfatture_.spedizione.Command7,
+                             [this] { SelezionaAlfanumerici(programma_, zfatture_); }));
+  return riquadro;
+}
+
+QLineEdit* ZFattureFinestra::fa_campo_trasporto(const QString& nome, CampoTesto Campi_Spedizione::*campo,
+                                                const Scritta& didascalia) {
+  QLineEdit* fatto = fa_campo(nome, zfatture_.spedizione.*campo, didascalia);
+  fatto->setMinimumWidth(fatto->fontMetrics().averageCharWidth() * caratteri_spese);
+  campi_trasporto_[fatto] = campo;
+  fatto->installEventFilter(this);
+  return fatto;
+}
+
+// What and how on the left, who on the right.
+QGroupBox* ZFattureFinestra::fa_trasporto() {
+  using S = Campi_Spedizione;
+  Campi_Spedizione& spedizione = zfatture_.spedizione;
+  auto* riquadro = Riquadro_Titolato(QStringLiteral("Trasporto"));
+  auto* griglia = new QGridLayout(riquadro);
+  const std::tuple<const char*, CampoTesto S::*, Scritta S::*> campi[] = {
+      {"Text8", &S::Text8, &S::Caption_Text8},
+      {"Text3", &S::Text3, &S::Caption_Text3},
+      {"Text6", &S::Text6, &S::Caption_Text6},
+      {"Text4", &S::Text4, &S::Caption_Text4}};
+  int y = 0;
+  for (const auto& [nome, campo, didascalia] : campi) {
+    const QString nome_qt = QString::fromLatin1(nome);
+    QLineEdit* fatto = fa_campo_trasporto(nome_qt, campo, spedizione.*didascalia);
+    QLabel* scritta = fa_scritta(QStringLiteral("Caption_") + nome_qt, spedizione.*didascalia);
+    scritta->setBuddy(fatto);
+    griglia->addWidget(scritta, y, 0);
+    griglia->addWidget(fatto, y, 1, 1, campo == &S::Text4 ? 1 : 2);
+    ++y;
+  }
+  // the rate stands beside the expenses, under one caption
+  griglia->addWidget(fa_campo_trasporto(QStringLiteral("Text5"), &S::Text5, spedizione.Caption_Text4), y - 1,
+                     2);
+  griglia->addWidget(fa_scritta(QStringLiteral("Caption_Text7"), spedizione.Caption_Text7), 0, 3);
+  for (int i = 0; i < static_cast<int>(spedizione.Text7.size()); ++i) {
+    QLineEdit* vettore = fa_campo(QStringLiteral("Text7(%1)").arg(i),
+                                  spedizione.Text7[static_cast<std::size_t>(i)], spedizione.Caption_Text7);
+    griglia->addWidget(vettore, i + 1, 3);
+  }
+  griglia->setColumnStretch(1, 1);
+  griglia->setColumnStretch(2, 1);
+  griglia->setColumnStretch(3, 4);
+  griglia->setHorizontalSpacing(10);
+  return riquadro;
+}
+
+QGroupBox* ZFattureFinestra::fa_caselle_filtri() {
   auto* riquadro = Riquadro_Titolato(QStringLiteral("Clienti"));
   auto* colonna = new QVBoxLayout(riquadro);
   colonna->addWidget(fa_casella(QStringLiteral("Check2"), zfatture_.Check2,
@@ -251,8 +331,26 @@ void ZFattureFinestra::mostra() {
   QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
 }
 
+// Only digits are keyed into the fields of the expenses.
+bool ZFattureFinestra::tasto_spese(QKeyEvent& evento) {
+  const QString testo = evento.text();
+  if (testo.size() != 1 || !testo[0].isPrint() || evento.modifiers().testFlag(Qt::ControlModifier))
+    return false;
+  return !AmmessoNelleSpese(Da_QString(testo)[0]);
+}
+
+bool ZFattureFinestra::evento_trasporto(CampoTesto Campi_Spedizione::*campo, QEvent& evento) {
+  const bool spese = campo == &Campi_Spedizione::Text4 || campo == &Campi_Spedizione::Text5;
+  if (spese) return evento.type() == QEvent::KeyPress && tasto_spese(static_cast<QKeyEvent&>(evento));
+  if (evento.type() != QEvent::MouseButtonDblClick) return false;
+  legame.esegui([&] { PredefinitoSpedizione(zfatture_, campo); });
+  return true;
+}
+
 // In a list Enter does what a double click does, and who comes to it has its document in the fields.
 bool ZFattureFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
+  if (const auto campo = campi_trasporto_.find(oggetto); campo != campi_trasporto_.end())
+    return evento_trasporto(campo->second, *evento) || Finestra::eventFilter(oggetto, evento);
   if (oggetto != fatture_ && oggetto != note_) return Finestra::eventFilter(oggetto, evento);
   const TipoFattura tipo = oggetto == fatture_ ? TipoFattura::Fattura : TipoFattura::Nota;
   if (evento->type() == QEvent::KeyPress) {

@@ -150,7 +150,7 @@ QBoxLayout* StampaImmagineFinestra::fa_scelte() {
     auto* finestra = new StampanteFinestra(programma_, this);
     finestra->setAttribute(Qt::WA_DeleteOnClose);
     finestra->esegui();
-    LeggiFoglio(programma_, schermo_);
+    RiprendiDaProprieta(programma_, schermo_);
   }));
   colonna->addWidget(Fa_Scritta(legame, QStringLiteral("fraFoglio"), schermo_.fraFoglio));
   colonna->addWidget(Fa_Scritta(legame, QStringLiteral("Altezza"), schermo_.Altezza));
@@ -202,6 +202,11 @@ bool StampaImmagineFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
   if (pressione.tasto != Tasto::Invio || !pressione.Nudo()) return Finestra::eventFilter(oggetto, evento);
   legame.esegui([this] { ConfermaScala(programma_, schermo_); });
   return true;
+}
+
+void StampaImmagineFinestra::closeEvent(QCloseEvent* evento) {
+  LasciaStampante(programma_, schermo_);
+  Finestra::closeEvent(evento);
 }
 
 void StampaImmagineFinestra::keyPressEvent(QKeyEvent* evento) {

@@ -40,6 +40,7 @@ class StampaImmagineFinestra : public Finestra {
   void mostra() override;
 
  protected:
+  void closeEvent(QCloseEvent* evento) override;
   void keyPressEvent(QKeyEvent* evento) override;
   void resizeEvent(QResizeEvent* evento) override;
   bool eventFilter(QObject* oggetto, QEvent* evento) override;

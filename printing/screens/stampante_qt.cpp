@@ -1,6 +1,7 @@
 #include "printing/screens/stampante_qt.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cmath>
 #include <numbers>
 
@@ -52,6 +53,14 @@ bool Si_Vede(char c) {
 
 Testo Non_Scritto(const Percorso& cartella, int errore) {
   return "non è stato scritto nella cartella\n"_t + Testo_Percorso(cartella) + "\n" + Testo_Errore(errore);
+}
+
+// How far the highest letter stands above the line that all stand on.
+double Altezza_Segni(const QRawFont& fonte, const QGlyphRun& segni) {
+  double altezza = 0;
+  for (const quint32 segno : segni.glyphIndexes())
+    altezza = std::max(altezza, -fonte.boundingRect(segno).top());
+  return altezza;
 }
 
 QPageLayout::Orientation In_Qt(int orientamento) {
@@ -222,24 +231,33 @@ void Stampante_Qt::Inizia_Pagina(int pagina, int orientamento) {
   lavoro.pennello.translate(lavoro.punti(bordi.left()), lavoro.punti(bordi.top()));
 }
 
-void Stampante_Qt::Finisci_Documento() {
+bool Stampante_Qt::Finisci_Documento() {
   lavoro_->pennello.end();
-  if (lavoro_->pdf) Consegna_PDF();
+  const bool consegnato = !lavoro_->pdf || Consegna_PDF();
   lavoro_.reset();
+  return consegnato;
 }
 
-void Stampante_Qt::Consegna_PDF() {
+bool Stampante_Qt::Consegna_PDF() {
   lavoro_->carta.reset();
   const QByteArray& byte = lavoro_->contenuto.data();
-  const Percorso file = File_Stampa(disco, cartella_stampe_, lavoro_->documento);
-  const int errore = disco.Sostituisci(file, Vista(byte.constData(), static_cast<std::size_t>(byte.size())));
+  const Vista contenuto(byte.constData(), static_cast<std::size_t>(byte.size()));
+  Percorso file = nomi_.Libero(disco, cartella_stampe_, lavoro_->documento);
+  int errore = disco.Scrivi_Nuovo(file, contenuto);
+  if (errore == EEXIST) {  // somebody else's, of this very moment
+    nomi_ = {};
+    file = nomi_.Libero(disco, cartella_stampe_, lavoro_->documento);
+    errore = disco.Scrivi_Nuovo(file, contenuto);
+  }
   if (errore != 0) {
     Perso(lavoro_->documento, Non_Scritto(cartella_stampe_, errore));
-    return;
+    return false;
   }
+  nomi_.Scritto(disco, file);
   avvisato_.reset();
   ultimo_pdf_ = file;
   if (Apri_Alla_Fine && mostra) mostra(file);
+  return true;
 }
 
 void Stampante_Qt::Perso(const Documento& documento_perso, const Testo& perche) {
@@ -275,7 +293,8 @@ const Metrica& Stampante_Qt::Misure(const Carattere_Stampa& carattere) {
 }
 
 // Letter by letter at the places that the tables give: no pair of letters is moved together, no width is
-// rounded.
+// rounded. A line that hangs over the upper edge comes down until its letters are whole: no printer has ink
+// beyond the edge, and the firm's name stands there.
 void Stampante_Qt::Disegna(double x, double y, const Carattere_Stampa& carattere, Vista testo) {
   const Metrica& metrica = Misure(carattere);
   const double corpo = lavoro_->punti(carattere.punti * Millimetri_Per_Punto),
@@ -295,8 +314,10 @@ void Stampante_Qt::Disegna(double x, double y, const Carattere_Stampa& carattere
   segni.setRawFont(fonte);
   segni.setGlyphIndexes(fonte.glyphIndexesForString(In_QString(visibile)));
   segni.setPositions(posti);
+  double base = lavoro_->punti(y) + metrica.sopra * unita;
+  if (y < 0 && base > 0) base = std::max(base, Altezza_Segni(fonte, segni));
   lavoro_->pennello.setPen(In_QColor(Nero));
-  lavoro_->pennello.drawGlyphRun({lavoro_->punti(x), lavoro_->punti(y) + metrica.sopra * unita}, segni);
+  lavoro_->pennello.drawGlyphRun({lavoro_->punti(x), base}, segni);
 }
 
 void Stampante_Qt::Disegna(const Segno& segno) {

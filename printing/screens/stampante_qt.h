@@ -11,6 +11,7 @@
 #include <QStringList>
 
 #include "printing/dispositivo.h"
+#include "printing/nomi_stampe.h"
 
 class QPrinter;
 
@@ -46,7 +47,7 @@ class Stampante_Qt : public Printer {
   bool Prendi_Stampante(const Testo& nome) override;
   bool Inizia_Documento() override;
   void Inizia_Pagina(int pagina, int orientamento) override;
-  void Finisci_Documento() override;
+  bool Finisci_Documento() override;
   void Disegna(double x, double y, const Carattere_Stampa& carattere, Vista testo) override;
   void Disegna(const Segno& segno) override;
   void Disegna(const Ovale& ovale) override;
@@ -69,7 +70,7 @@ class Stampante_Qt : public Printer {
   QMarginsF Bordi(int orientamento) const;  // as the sheet lies
   const QRawFont& Carattere(const Carattere_Stampa& carattere);
   std::unique_ptr<Lavoro> Nuovo_Lavoro(const QString& titolo);
-  void Consegna_PDF();
+  bool Consegna_PDF();
   void Perso(const Documento& documento_perso, const Testo& perche);
 
   Percorso cartella_stampe_;
@@ -78,6 +79,7 @@ class Stampante_Qt : public Printer {
   std::unique_ptr<Lavoro> lavoro_;
   std::map<Chiave, QRawFont> caratteri_;
   std::map<Chiave, Metrica> misure_;
+  Nomi_Stampe nomi_;
   Percorso ultimo_pdf_;
   std::optional<Documento> avvisato_;  // the lost document that was told
 };

@@ -81,6 +81,7 @@ void Prepara_Documenti(Programma& programma, const Edita& edita, EditaFinestra& 
 void Apri_Fatture(Programma& programma, EditaFinestra& finestra) {
   if (!CiSonoVendite(programma)) return;
   ZFatture zfatture;
+  if (programma.preferenze.FlagFatBrenval) zfatture.variante = &Fatture_Con_Vettore;
   ApriFatture(programma, zfatture);
   if (!zfatture.chiusa) Apri_Davanti<ZFattureFinestra>(programma, std::move(zfatture), &finestra);
 }

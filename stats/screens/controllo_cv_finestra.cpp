@@ -32,6 +32,7 @@ ControlloCVFinestra::ControlloCVFinestra(Programma& programma, QWidget* padre)
   tutto->addWidget(fa_lista(), 1);
   auto* esito = new QLabel;
   esito->setWordWrap(true);
+  esito->setMinimumHeight(esito->fontMetrics().lineSpacing() * 2);  // the list above stays where it is
   legame.lega(esito, QStringLiteral("Esito"), schermo_.Esito);
   tutto->addWidget(esito);
   tutto->addLayout(fa_totali());

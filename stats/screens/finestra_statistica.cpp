@@ -1,5 +1,7 @@
 #include "stats/screens/finestra_statistica.h"
 
+#include <algorithm>
+
 #include <QAction>
 #include <QApplication>
 #include <QBoxLayout>
@@ -9,6 +11,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QStyledItemDelegate>
 
 #include "core/programma.h"
 #include "lists/screens/parti.h"
@@ -46,6 +49,24 @@ class Filtro_Esc : public QObject {
         return false;
     }
   }
+};
+
+// Every line of a list is as wide as the widest, so that the list can be scrolled to the end of it: the view
+// measures one line for all.
+class Riga_Piu_Larga : public QStyledItemDelegate {
+ public:
+  Riga_Piu_Larga(const Elenco& elenco, QObject* padre) : QStyledItemDelegate(padre), elenco_(elenco) {}
+
+  QSize sizeHint(const QStyleOptionViewItem& opzioni, const QModelIndex& indice) const override {
+    std::size_t lunga = 0;
+    for (std::size_t i = 0; i < elenco_.Numero(); ++i) lunga = std::max(lunga, elenco_.Riga(i).size());
+    const QSize una = QStyledItemDelegate::sizeHint(opzioni, indice);
+    const int carattere = opzioni.fontMetrics.horizontalAdvance(QLatin1Char('0'));
+    return {std::max(una.width(), carattere * static_cast<int>(lunga + 1)), una.height()};
+  }
+
+ private:
+  const Elenco& elenco_;
 };
 
 }  // namespace
@@ -86,8 +107,19 @@ QListView* FinestraStatistica::fa_lista(const char* nome, const char* letta, Ele
                                         Legame::Evento evento) {
   auto* lista = new ListaVoci(programma_.preferenze.DimFontListe);
   lista->setAccessibleName(QString::fromUtf8(letta));
+  lista->setItemDelegate(new Riga_Piu_Larga(stato, lista));
   lista->setMinimumWidth(lista->fontMetrics().horizontalAdvance(QLatin1Char('0')) * caratteri);
   legame.lega(lista, QString::fromUtf8(nome), stato, std::move(evento));
+  return lista;
+}
+
+QListView* FinestraStatistica::fa_pannello(const char* nome, const char* letta, Elenco& stato, int caratteri,
+                                           Legame::Evento evento) {
+  QListView* lista = fa_lista(nome, letta, stato, caratteri, std::move(evento));
+  lista->setMaximumWidth(lista->minimumWidth() * 3 / 2);
+  lista->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  lista->setTextElideMode(Qt::ElideRight);
+  lista->setItemDelegate(new QStyledItemDelegate(lista));
   return lista;
 }
 
@@ -136,7 +168,7 @@ void FinestraStatistica::disponi(QBoxLayout* sinistra) {
   affiancate->setContentsMargins(margine, margine, margine, margine);
   affiancate->setSpacing(stacco);
   sinistra->setSpacing(stacco);
-  affiancate->addLayout(sinistra, 3);
+  affiancate->addLayout(sinistra, 4);
   affiancate->addWidget(tela_, 1);
   auto* tutto = new QVBoxLayout(this);
   tutto->setContentsMargins(0, 0, 0, 0);

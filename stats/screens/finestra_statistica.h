@@ -38,6 +38,9 @@ class FinestraStatistica : public Finestra {
   // So many characters wide at least.
   QListView* fa_lista(const char* nome, const char* letta, Elenco& stato, int caratteri,
                       Legame::Evento evento = {});
+  // A list of names at the side of another, too long ones cut.
+  QListView* fa_pannello(const char* nome, const char* letta, Elenco& stato, int caratteri,
+                         Legame::Evento evento);
   QLabel* fa_titoli(const char* nome, Scritta& stato, const QListView& sopra);
   QLabel* fa_scritta(const char* nome, Scritta& stato);
   // A field with its caption in front, and a button, at the end of `riga`.

@@ -1,11 +1,12 @@
 #include "stats/screens/rxcli_finestra.h"
 
 #include <QBoxLayout>
+#include <QLabel>
 #include <QListView>
 
 namespace {
 
-constexpr int caratteri_clienti = 26, caratteri_totali = 72;
+constexpr int caratteri_clienti = 30, caratteri_totali = 72;
 
 }  // namespace
 
@@ -17,6 +18,7 @@ RXcliFinestra::RXcliFinestra(Programma& programma, Vista cliente, const Chi_Chie
   Apri_RXcli(programma_, rxcli_, cliente);
   fa_menu();
   disponi(fa_liste());
+  clienti_->setFocus(Qt::OtherFocusReason);
   mostra();
 }
 
@@ -29,12 +31,14 @@ void RXcliFinestra::fa_menu() {
 }
 
 QBoxLayout* RXcliFinestra::fa_liste() {
-  QListView* clienti = fa_lista("ListaClienti", "Clienti", rxcli_.ListaClienti, caratteri_clienti,
-                                [this] { Scelto_Cliente(rxcli_); });
-  clienti->setMaximumWidth(clienti->minimumWidth() * 3 / 2);
-  clienti->setFocus(Qt::OtherFocusReason);
+  clienti_ = fa_pannello("ListaClienti", "Clienti", rxcli_.ListaClienti, caratteri_clienti,
+                         [this] { Scelto_Cliente(rxcli_); });
+  auto* colonna = new QVBoxLayout;
+  colonna->setSpacing(2);
+  colonna->addWidget(fa_lista("ListaTotali", "Totali per cliente", rxcli_.ListaTotali, caratteri_totali), 1);
+  colonna->addWidget(fa_scritta("Avviso", rxcli_.Avviso));
   auto* riga = new QHBoxLayout;
-  riga->addWidget(clienti, 1);
-  riga->addWidget(fa_lista("ListaTotali", "Totali per cliente", rxcli_.ListaTotali, caratteri_totali), 3);
+  riga->addWidget(clienti_, 1);
+  riga->addLayout(colonna, 3);
   return riga;
 }

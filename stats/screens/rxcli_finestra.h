@@ -18,4 +18,5 @@ class RXcliFinestra : public FinestraStatistica {
 
   Programma& programma_;
   RXcli rxcli_;
+  QListView* clienti_ = nullptr;
 };

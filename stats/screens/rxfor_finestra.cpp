@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int caratteri_lista = 80, caratteri_data = 12;
+constexpr int caratteri_lista = 84, caratteri_data = 12;
 
 }  // namespace
 

@@ -1,6 +1,7 @@
 #include "stats/screens/statistica_finestra.h"
 
 #include <QBoxLayout>
+#include <QLabel>
 #include <QListView>
 
 namespace {
@@ -18,6 +19,7 @@ StatisticaFinestra::StatisticaFinestra(Programma& programma, const Chi_Chiede_Fi
   Apri_Statistica(programma_, statistica_);
   fa_menu();
   disponi(fa_liste());
+  lista_->setFocus(Qt::OtherFocusReason);
   mostra();
 }
 
@@ -32,22 +34,20 @@ void StatisticaFinestra::fa_menu() {
 }
 
 QBoxLayout* StatisticaFinestra::fa_liste() {
-  QListView* fornitori = fa_lista("ListaFornitori", "Fornitori", statistica_.ListaFornitori,
-                                  caratteri_fornitori, [this] { Scelto_Fornitore(statistica_); });
-  fornitori->setMaximumWidth(fornitori->minimumWidth() * 3 / 2);
+  QListView* fornitori = fa_pannello("ListaFornitori", "Fornitori", statistica_.ListaFornitori,
+                                     caratteri_fornitori, [this] { Scelto_Fornitore(statistica_); });
   QListView* titoli = fa_lista("ListaTitoli", "Titoli", statistica_.ListaTitoli, caratteri_statistica);
   titoli->setFocusPolicy(Qt::NoFocus);
   titoli->setSelectionMode(QAbstractItemView::NoSelection);
   titoli->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   titoli->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   titoli->setFixedHeight(titoli->sizeHintForRow(0) * righe_titoli + 2 * titoli->frameWidth());
-  QListView* lista =
-      fa_lista("ListaStatistica", "Statistica", statistica_.ListaStatistica, caratteri_statistica);
-  lista->setFocus(Qt::OtherFocusReason);
+  lista_ = fa_lista("ListaStatistica", "Statistica", statistica_.ListaStatistica, caratteri_statistica);
   auto* colonna = new QVBoxLayout;
   colonna->setSpacing(2);
   colonna->addWidget(titoli);
-  colonna->addWidget(lista, 1);
+  colonna->addWidget(lista_, 1);
+  colonna->addWidget(fa_scritta("Avviso", statistica_.Avviso));
   auto* riga = new QHBoxLayout;
   riga->addWidget(fornitori, 1);
   riga->addLayout(colonna, 3);

@@ -16,4 +16,5 @@ class StatisticaFinestra : public FinestraStatistica {
 
   Programma& programma_;
   Statistica statistica_;
+  QListView* lista_ = nullptr;
 };

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int caratteri_larghi = 34, margine = 8, righe_nome_e_barra = 2;
+constexpr int caratteri_larghi = 30, margine = 8, righe_nome_e_barra = 2;
 
 }  // namespace
 
@@ -40,7 +40,7 @@ QSize TelaBarre::minimumSizeHint() const {
 }
 
 QSize TelaBarre::sizeHint() const {
-  const int alta = fontMetrics().height() * 2 + passo() * static_cast<int>(Barre_Massime) + 2 * margine;
+  const int alta = fontMetrics().height() * 3 + passo() * static_cast<int>(Barre_Massime) + 2 * margine;
   return {fontMetrics().averageCharWidth() * caratteri_larghi, alta};
 }
 
@@ -53,28 +53,34 @@ void TelaBarre::paintEvent(QPaintEvent*) {
   const int riga = fontMetrics().height();
   pittore.setFont(Carattere(punti_normali, true));
   pittore.setPen(palette().color(QPalette::Text));
-  pittore.drawText(
-      QRect(margine, margine, width() - 2 * margine, riga), Qt::AlignLeft,
-      pittore.fontMetrics().elidedText(In_QString(grafico_.titolo), Qt::ElideRight, width() - 2 * margine));
+  pittore.drawText(QRect(margine, margine, width() - 2 * margine, 2 * riga), Qt::AlignLeft | Qt::TextWordWrap,
+                   In_QString(grafico_.titolo));
   pittore.setFont(font());
-  int alto = margine + 2 * riga;
+  int alto = margine + 2 * riga + riga / 2;
   for (const Barra& barra : grafico_.barre) {
     dipingi_barra(pittore, barra, alto);
     alto += passo();
   }
 }
 
+// The name above, the amount behind the bar.
 void TelaBarre::dipingi_barra(QPainter& pittore, const Barra& barra, int alto) const {
   const QFontMetrics misure = fontMetrics();
   const int riga = misure.height(), larga = width() - 2 * margine;
-  const QString cifra = In_QString(Cifra(barra, separatore_));
-  const int posto_cifra = misure.horizontalAdvance(cifra) + margine;
   pittore.setPen(palette().color(QPalette::Text));
-  pittore.drawText(QRect(margine, alto, larga - posto_cifra, riga), Qt::AlignLeft | Qt::AlignVCenter,
-                   misure.elidedText(In_QString(barra.nome), Qt::ElideRight, larga - posto_cifra));
-  pittore.drawText(QRect(margine, alto, larga, riga), Qt::AlignRight | Qt::AlignVCenter, cifra);
-  const int lunga = qMax(1, static_cast<int>(Lunghezza(grafico_, barra) * (larga - 1)));
-  pittore.setPen(palette().color(QPalette::Text));
+  pittore.drawText(QRect(margine, alto, larga, riga), Qt::AlignLeft | Qt::AlignVCenter,
+                   misure.elidedText(In_QString(barra.nome), Qt::ElideMiddle, larga));
+  const int lunga = qMax(1, static_cast<int>(Lunghezza(grafico_, barra) * (larga - larghezza_cifre())));
+  pittore.drawText(QRect(margine + lunga + margine, alto + riga, larga, riga),
+                   Qt::AlignLeft | Qt::AlignVCenter, In_QString(Cifra(barra, separatore_)));
   pittore.setBrush(barra.importo > 0 ? palette().brush(QPalette::Highlight) : QBrush(Qt::NoBrush));
-  pittore.drawRect(QRect(margine, alto + riga, lunga, riga * 3 / 4));
+  pittore.drawRect(QRect(margine, alto + riga + riga / 8, lunga, riga * 3 / 4));
+}
+
+// What the longest amount takes, with the gap before it.
+int TelaBarre::larghezza_cifre() const {
+  int larghezza = 0;
+  for (const Barra& barra : grafico_.barre)
+    larghezza = qMax(larghezza, fontMetrics().horizontalAdvance(In_QString(Cifra(barra, separatore_))));
+  return larghezza + 2 * margine;
 }

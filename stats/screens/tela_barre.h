@@ -20,6 +20,7 @@ class TelaBarre : public QWidget {
 
  private:
   int passo() const;  // pixels from one bar to the next
+  int larghezza_cifre() const;
   void dipingi_barra(QPainter& pittore, const Barra& barra, int alto) const;
 
   const Grafico& grafico_;

@@ -219,8 +219,10 @@ TEST_F(Schermo_Manuale, Anteprima) {
   EXPECT_THAT(registro.righe, IsEmpty());
   EXPECT_FALSE(std::filesystem::exists(cartella / "2025/CV_NO/03140005.txt"));
 
-  Premi(Tasto::F2);  // covered
-  EXPECT_THAT(registro.righe, IsEmpty());
+  Premi(Tasto::F2);  // what is in view
+  EXPECT_THAT(macchina.messaggi, ElementsAre("fatto..."));
+  EXPECT_TRUE(std::filesystem::exists(cartella / "2025/CV_NO/03140005.txt"));
+  EXPECT_TRUE(zgemmit.Anteprima.visibile);
   Premi(Tasto::Esc);
   EXPECT_FALSE(zgemmit.Anteprima.visibile);
   EXPECT_FALSE(zgemmit.chiusa);
@@ -228,6 +230,21 @@ TEST_F(Schermo_Manuale, Anteprima) {
   EXPECT_EQ(zgemmit.fuoco, Zgemmit::fuoco_Lista);
   Premi(Tasto::Esc);
   EXPECT_TRUE(zgemmit.chiusa);
+}
+
+// F2 after it prints the account in view: the preview of another one doesn't stay in front of the list.
+TEST_F(Schermo_Manuale, UnAltroContoToglieLAnteprima) {
+  Apri(Vendite_Di_Esempio());
+  Premi(Tasto::F6);
+  Premi(Tasto::F9);
+  EXPECT_FALSE(zgemmit.Anteprima.visibile);
+  EXPECT_TRUE(zgemmit.Pannello.visibile);
+  EXPECT_EQ(zgemmit.ListaCV.scelta, 1);
+  Premi(Tasto::F6);
+  Premi(Tasto::F4);
+  macchina.risposte = {true};
+  Premi(Tasto::F2);
+  EXPECT_FALSE(zgemmit.Anteprima.visibile);
 }
 
 TEST_F(Schermo_Manuale, AnteprimaSenzaSceltaESenzaFornitore) {
@@ -289,6 +306,22 @@ TEST_F(Schermo_Manuale, TuttiAncheQuelliSenzaProvvigione) {
   EXPECT_THAT(File("03140006.txt"), HasSubstr("Valle Zappa\r\n100\r\n0\r\n"));
   EXPECT_EQ(zgemmit.ListaCV.scelta, 1);
   EXPECT_EQ(programma.Ultimo_CV, 6);
+}
+
+// Rows to which nobody gave a number are an account too: it stands first in the list, prints like the others,
+// and shows the agent what was forgotten. 9999 stands for no number and yet becomes the last one used.
+TEST_F(Schermo_Manuale, RigheSenzaNumero) {
+  Apri({{"Laguna Pesca", "-", "Orata", "1", "1"},
+        {"Laguna Pesca", "5", "Orata", "1", "1"},
+        {"Valle Zappa", "9999", "Orata", "1", "1"}});
+  EXPECT_THAT(Righe_Di(zgemmit.ListaCV),
+              ElementsAre(HasSubstr("00000 |"), HasSubstr("00005 |"), HasSubstr("09999 |")));
+  Premi(Tasto::F4);
+  macchina.risposte = {true};
+  Premi(Tasto::F2);
+  EXPECT_THAT(registro.righe, Contains("fine").Times(3));
+  EXPECT_NE(File("03140000.txt"), "(manca)");
+  EXPECT_EQ(programma.Ultimo_CV, 9999);
 }
 
 TEST_F(Schermo_Manuale, TuttiAnnullato) {
@@ -432,9 +465,9 @@ TEST_F(Schermo_Manuale, UnAltroFornitore) {
     EXPECT_EQ(zgemmit.fuoco, Campo_Fornitore);
     macchina.risposte = {true, confermato};
     ModificaDati(programma, zgemmit);
-    EXPECT_EQ(
-        macchina.domande.back(),
-        "Attenzione NCV = 5 : Il fornitore è stato cambiato da:\nLaguna Pesca\na:\nNord Adria\n...OK per aggiornare i dati al CV n. 5"_t);
+    EXPECT_EQ(macchina.domande.back(),
+              "Attenzione NCV = 5 : Il fornitore è stato cambiato da:\nLaguna Pesca\na:\nNord Adria\n"_t
+              "...OK per aggiornare i dati al CV n. 5"_t);
     const Testo atteso = confermato ? "Nord Adria" : "Laguna Pesca";
     EXPECT_THAT(Colonna(C::Fornitore), ElementsAre(atteso, atteso, "Valle Zappa"));
     EXPECT_EQ(zgemmit.Tabella_CV[0].Fornitore, atteso);

@@ -231,6 +231,38 @@ TEST_F(Pagine_CV_Test, UnaPaginaPienaEUnaRigaInPiu) {
   }
 }
 
+// A layout with a fixed number of lines fits also where the margin is wide or the printer doesn't reach the
+// end of the sheet: the last line must not lie under the totals or the notes.
+TEST_F(Pagine_CV_Test, LeRigheFisseNonVannoNelPiede) {
+  documento.NotaDDLL = true;
+  struct Caso {
+    Tracciato_CV tracciato;
+    int righe;
+    Vista sotto;  // what comes first below the table
+  };
+  for (const auto& [tracciato, righe, sotto] :
+       {Caso{Tracciato_CV::Semplice, 29, "Imponibile Totale"},
+        Caso{Tracciato_CV::Tipo2, 18, "Cessione Intercomunitaria non imponibile"}})
+    for (const float altezza : {297.0F, 287.0F})
+      for (const int alto : {0, 2, 6, 15}) {
+        SCOPED_TRACE(Testo(sotto) + " " + std::to_string(altezza) + " " + std::to_string(alto));
+        foglio = {5, alto, altezza};
+        Tante(righe);
+        const Pagina_CV pagina = Pagine(tracciato).at(0);
+        float prima = static_cast<float>(alto) + 85;
+        for (int riga = 1; riga <= righe; ++riga) {
+          const Testo specie = "Specie " + Pad_Sinistra(std::to_string(riga), 2, '0') + " (SBG)";
+          const float y = Posto(pagina, specie).second;
+          EXPECT_GE(y, prima + 4);
+          prima = y;
+        }
+        EXPECT_LE(prima + 4, Posto(pagina, sotto).second);
+      }
+  foglio = {5, 2, 297};
+  Tante(29);
+  EXPECT_EQ(Posto(Pagine(Tracciato_CV::Semplice).at(0), "Specie 29 (SBG)").second, 2 + 85 + 29 * 5);
+}
+
 // A supplier with rows of price 0 alone: a page with his totals of 0, for the number that was given to it.
 TEST_F(Pagine_CV_Test, UnContoSenzaRigheHaUnaPagina) {
   Righe({});
@@ -259,6 +291,8 @@ TEST_F(Pagine_CV_Test, SpeseInPercentuale) {
   const Pagina_CV busta = Pagine(Tracciato_CV::Busta).at(0);
   EXPECT_EQ(Posto(busta, "(*) rimborso spese accessorie (Rif. Ns. Ft. Separata)"), P(7, 277));
   EXPECT_THAT(Testi(busta), Contains("Spese Acc. (*)"));
+  documento.KgTotali = true;  // the two lines must not be printed one over the other
+  EXPECT_EQ(Posto(Pagine(Tracciato_CV::Busta).at(0), "Kg. Totali = 100,00"), P(15, 271));
   EXPECT_EQ(Con(busta, "20,00").y, 281);
   // with the VAT in it, as this layout completes it
   CompletaPerTipo1(documento.importi, documento.regole);
@@ -358,6 +392,43 @@ TEST_F(Pagine_CV_Test, UnDocumentoPerCopia) {
   EXPECT_THAT(registro.righe, Contains("documento \"20250314 Conto Vendita 41 0001\" Registro").Times(2));
   EXPECT_THAT(titoli, ElementsAre("0001 Pagina 1 di 2 in corso...", "0001 Pagina 2 di 2 in corso...",
                                   "0001 Pagina 1 di 2 in corso...", "0001 Pagina 2 di 2 in corso..."));
+}
+
+// A name of any length leaves the weight, the address and the edge of the sheet free.
+TEST_F(Pagine_CV_Test, ITestiLunghiRestanoNelLoroPosto) {
+  const Testo lunga = "Vongola verace allevata della laguna veneta sud di calibro grande extra";
+  Righe({Riga_CV("A", lunga, "1234", "2", "10")});
+  documento.conto.DDT_CV = "123 del 14/03/2025 e 4567/A del 13/03/2025";
+  documento.fornitore.RagSoc1 = "Cooperativa fra i pescatori della laguna di Marano e delle valli";
+  for (const auto& [tracciato, destinatario, colonna] : {std::tuple{Tracciato_CV::Semplice, 110, 105},
+                                                         {Tracciato_CV::Tipo1, 122, 105},
+                                                         {Tracciato_CV::Tipo2, 122, 105},
+                                                         {Tracciato_CV::Busta, 122, 115},
+                                                         {Tracciato_CV::Colli, 122, 115}}) {
+    registro = {};
+    StampaConto(programma, documento, {tracciato, true}, [](const Testo&) {});
+    const auto fine = [&](const Testo& testo, float inizio, bool grassetto) {
+      const auto riga = std::find_if(registro.righe.begin(), registro.righe.end(),
+                                     [&](const Testo& r) { return r.ends_with(": " + testo); });
+      if (riga == registro.righe.end()) throw std::runtime_error("manca: " + testo);
+      printer.FontName = "Arial";
+      printer.FontBold = grassetto;
+      printer.FontSize = std::stof(riga->substr(riga->find(" Arial ") + 7));
+      return inizio + printer.TextWidth(testo);
+    };
+    const int sinistra = FormaCV(tracciato).scarto + FormaCV(tracciato).Sinistra_Di(Campo_CV::Descrizione);
+    EXPECT_LE(fine(lunga + " (SBG)", static_cast<float>(sinistra + 1), false), static_cast<float>(colonna));
+    EXPECT_LE(fine(documento.fornitore.RagSoc1, static_cast<float>(destinatario), true), 200);
+    if (tracciato == Tracciato_CV::Semplice || tracciato == Tracciato_CV::Tipo1) {
+      EXPECT_LE(fine(documento.conto.DDT_CV, 43, true), static_cast<float>(destinatario));
+    }
+  }
+  // what not even the smallest letters hold is cut
+  Righe({Riga_CV("A", Testo(300, 'W'), "1234", "2", "10")});
+  registro = {};
+  StampaConto(programma, documento, {Tracciato_CV::Busta, true}, [](const Testo&) {});
+  EXPECT_THAT(registro.righe, Not(Contains(testing::HasSubstr(Testo(200, 'W')))));
+  EXPECT_THAT(registro.righe, Contains(testing::HasSubstr(" Arial 5: " + Testo(50, 'W'))));
 }
 
 TEST_F(Pagine_CV_Test, SenzaStampanteNonSuccedeNiente) {

@@ -67,6 +67,26 @@ TEST_F(Stampa_Conti, LEsempioInAnteprimaSuCartaENelFile) {
   EXPECT_EQ(cartella.Contenuto("2025/CV_NO/03140042.txt"), file_esempio);
 }
 
+// F2 after it prints the account in view: the preview of another one doesn't stay in front of the list.
+TEST_F(Stampa_Conti, UnAltroContoToglieLAnteprima) {
+  Giornata();
+  Apri();
+  Premi(Tasto::F6);
+  Premi(Tasto::F2);
+  EXPECT_TRUE(zvendita.Anteprima.visibile);
+  EXPECT_THAT(File_No(), ElementsAre("03140041.txt"));
+  Premi(Tasto::F9);
+  EXPECT_FALSE(zvendita.Anteprima.visibile);
+  EXPECT_TRUE(zvendita.Pannello.visibile);
+  EXPECT_EQ(zvendita.ListaCV.scelta, 1);
+  Premi(Tasto::F6);
+  EXPECT_THAT(Anteprima(), Contains("Num Conto Vendita: 42"));
+  Premi(Tasto::F4);
+  macchina.risposte = {true};
+  Premi(Tasto::F2);
+  EXPECT_FALSE(zvendita.Anteprima.visibile);
+}
+
 TEST_F(Stampa_Conti, AnteprimaSenzaRigaScelta) {
   Giornata();
   Apri();
@@ -112,6 +132,24 @@ TEST_F(Stampa_Conti, TuttiConUnComando) {
   EXPECT_THAT(File_No(), ElementsAre("03140042.txt", "03140043.txt"));
   // printing changes nothing in the ledger
   EXPECT_THAT(Colonna_Salvata(CampoRiga::NCV), testing::Each(""));
+}
+
+// Preview and paper read the ledger; only numbering and changes write into it.
+TEST_F(Stampa_Conti, StampareNonCambiaIlLibro) {
+  Giornata();
+  Apri();
+  const Testo prima = Scrivi_Tabella(programma.Vet_Tabella);
+  const auto file = cartella.Contenuto("2025/20250314.txt");
+  for (int frame = 0; frame <= 6; ++frame) {
+    programma.preferenze.FlagStampaFrame = frame;
+    zvendita.Check1.segnata = zvendita.Check6.segnata = true;
+    macchina.risposte = {true};
+    Premi(Tasto::F6);
+    Premi(Tasto::F2);
+    EXPECT_EQ(Scrivi_Tabella(programma.Vet_Tabella), prima);
+    EXPECT_EQ(cartella.Contenuto("2025/20250314.txt"), file);
+    EXPECT_EQ(Ultimo_Salvato(), "42");
+  }
 }
 
 TEST_F(Stampa_Conti, TuttiRifiutato) {

@@ -214,7 +214,7 @@ TEST_F(Disco_Prova, NessunElencoMostraIlFileProvvisorio) {
   disco.guasto = [&](const Percorso&) {
     ++passi;
     for (const Vista modello : {"*.txt", "*.dat", "?????_FAT*.txt"})
-      EXPECT_THAT(disco.Elenca(cartella.percorso, modello), IsEmpty()) << modello;
+      EXPECT_THAT(disco.Elenca(cartella.percorso, modello), testing::Each("20250314.txt")) << modello;
     for (const auto& nome : cartella.Nomi()) visti.push_back(nome);
     return 0;
   };
@@ -255,6 +255,23 @@ TEST_F(Disco_Prova, Aggiungi) {
   EXPECT_THAT(cartella.Nomi(), ElementsAre("a.txt"));
 }
 
+// A large file grows in place, a small one is replaced; what is cut short is taken back.
+TEST_F(Disco_Prova, AggiungiAFileGrandiEPiccoli) {
+  constexpr std::size_t un_megabyte = std::size_t{1} << 20U;
+  const Testo grande(un_megabyte, 'x');
+  EXPECT_EQ(disco.Aggiungi(cartella / "a.txt", grande), 0);
+  EXPECT_EQ(disco.Aggiungi(cartella / "a.txt", "coda"), 0);
+  EXPECT_TRUE(cartella.Contenuto("a.txt") == grande + "coda");
+  EXPECT_EQ(disco.Aggiungi(cartella / "b.txt", grande + "coda"), 0);
+  EXPECT_TRUE(cartella.Contenuto("b.txt") == grande + "coda");
+  Guasta_Al(1);
+  EXPECT_EQ(disco.Aggiungi(cartella / "a.txt", "altro"), ENOSPC);
+  EXPECT_EQ(disco.Aggiungi(cartella / "manca/a.txt", grande + "coda"), ENOENT);
+  EXPECT_EQ(disco.Aggiungi("/dev/full", grande + "coda"), EINVAL);
+  EXPECT_TRUE(cartella.Contenuto("a.txt") == grande + "coda");
+  EXPECT_THAT(cartella.Nomi(), ElementsAre("a.txt", "b.txt"));
+}
+
 // In place: the same file on the disk, so that the sold fish of a trial day can't be read from freed blocks.
 TEST_F(Disco_Prova, SovrascriviSulPosto) {
   cartella.Metti("a.dat", Testo(10000, 'x'));
@@ -292,6 +309,22 @@ TEST_F(Disco_Prova, Cancella) {
   EXPECT_EQ(disco.Cancella(cartella / "A.TXT"), 0);
   EXPECT_EQ(disco.Cancella(cartella / "a.txt"), ENOENT);
   EXPECT_EQ(disco.Cancella(cartella.percorso), EISDIR);
+}
+
+TEST_F(Disco_Prova, ScriviNuovoNonPrendeIlPostoDiNessuno) {
+  EXPECT_EQ(disco.Scrivi_Nuovo(cartella / "a.txt", "x"), 0);
+  EXPECT_EQ(disco.Scrivi_Nuovo(cartella / "a.txt", "y"), EEXIST);
+  EXPECT_EQ(cartella.Contenuto("a.txt"), "x");
+  EXPECT_EQ(disco.Scrivi_Nuovo(cartella / "A.txt", "y"), 0);
+  EXPECT_EQ(disco.Scrivi_Nuovo(cartella / "manca/b.txt", "y"), ENOENT);
+  std::filesystem::create_directory(cartella / "c");
+  EXPECT_EQ(disco.Scrivi_Nuovo(cartella / "c", "y"), EEXIST);
+  EXPECT_EQ(disco.Scrivi_Nuovo(cartella / "C/d.txt", "y"), 0);
+  Guasta_Al(1);
+  EXPECT_EQ(disco.Scrivi_Nuovo(cartella / "e.txt", "y"), ENOSPC);
+  EXPECT_THAT(cartella.Nomi(), ElementsAre("A.txt", "a.txt", "c"));
+  EXPECT_TRUE(disco.Cambiata(cartella.percorso).has_value());
+  EXPECT_FALSE(disco.Cambiata(cartella / "manca").has_value());
 }
 
 TEST_F(Disco_Prova, Rinomina) {

@@ -207,4 +207,14 @@ TEST(Testo_Campi, SenzaSeparatori) {
   EXPECT_EQ(Senza_Separatori(""), "");
 }
 
+TEST(Testi, SenzaMarca) {
+  EXPECT_EQ(Senza_Marca("\xEF\xBB\xBF"
+                        "0001\tMare"),
+            "0001\tMare");
+  EXPECT_EQ(Senza_Marca("\xEF\xBB\xBF"), "");
+  EXPECT_EQ(Senza_Marca("\xEF\xBB"), "\xEF\xBB");
+  EXPECT_EQ(Senza_Marca("x\xEF\xBB\xBF"), "x\xEF\xBB\xBF") << "only at the head";
+  EXPECT_EQ(Senza_Marca(""), "");
+}
+
 }  // namespace

@@ -203,8 +203,8 @@ TEST_F(DimDDT_Test, SenzaUnFoglioNienteSchizzo) {
   }
 }
 
-// The stamp of the picture is where the print puts it.
-TEST_F(DimDDT_Test, IlBolloDelloSchizzoEQuelloStampato) {
+// The stamp and the foot lines of the picture are where the print puts them.
+TEST_F(DimDDT_Test, BolloEPiedeDelloSchizzoSonoQuelliStampati) {
   const auto schizzo = Schizzo(programma, schermo);
   ASSERT_TRUE(schizzo && schizzo->bollo);
   const Preferenze& preferenze = programma.preferenze;
@@ -215,6 +215,13 @@ TEST_F(DimDDT_Test, IlBolloDelloSchizzoEQuelloStampato) {
   const auto mm = [](double valore) { return Formato(valore, "#0.00", '.'); };
   EXPECT_THAT(registro.righe, testing::Contains(HasSubstr("ellisse " + mm(bollo.x) + " " + mm(bollo.y) + " " +
                                                           mm(bollo.raggio_x) + " " + mm(bollo.raggio_y))));
+  StampaDueRighe(programma, 172, 0);
+  for (std::size_t i = 1; i <= 2; ++i) {
+    const Scritta_Pagina& riga = schizzo->pagina.tabella[schizzo->pagina.tabella.size() - 3 + i];
+    EXPECT_THAT(registro.righe,
+                testing::Contains(testing::AllOf(HasSubstr("testo " + mm(riga.x) + " " + mm(riga.y) + " "),
+                                                 testing::EndsWith(": " + riga.testo))));
+  }
   programma.preferenze.FlagEllisse = false;
   EXPECT_FALSE(Schizzo(programma, schermo)->bollo);
 }

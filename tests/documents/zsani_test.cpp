@@ -406,7 +406,7 @@ TEST_F(Zsani_Test, UnaGrandeGiornataInUnAttimo) {
   for (const Testo& numero : DDT()) ASSERT_TRUE(numero.ends_with("(ds)"));
   RecordProperty("millisecondi",
                  static_cast<int>(std::chrono::duration_cast<std::chrono::milliseconds>(durata).count()));
-  EXPECT_LT(durata, std::chrono::seconds(2)) << "milliseconds, but for sanitizers and a busy machine";
+  EXPECT_LT(durata, std::chrono::seconds(10)) << "milliseconds, but for sanitizers and a busy machine";
 }
 
 }  // namespace

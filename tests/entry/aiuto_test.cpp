@@ -1,6 +1,8 @@
 #include "entry/aiuto.h"
 
+#include <fstream>
 #include <gmock/gmock.h>
+#include <unistd.h>
 
 #include "tests/piattaforma_finta.h"
 
@@ -105,6 +107,51 @@ TEST(Aiuti, SiMostraComeMessaggio) {
   EXPECT_THAT(macchina.messaggi, testing::ElementsAre(Di("Aiuto_Lotti")));
   MostraAiuto(programma, "altro");
   EXPECT_EQ(macchina.messaggi.size(), 1U);
+}
+
+// A firm's folder and the installed program's, each with or without the manual.
+class Manuale : public testing::Test {
+ protected:
+  Manuale() {
+    programma.Cartella_Dati = ditta;
+    std::filesystem::create_directories(ditta);
+    std::filesystem::create_directories(installato);
+  }
+  ~Manuale() override { std::filesystem::remove_all(radice); }
+  static void metti(const Percorso& file) { std::ofstream(file) << "%PDF"; }
+
+  Percorso radice = std::filesystem::temp_directory_path() /
+                    ("manuale_" + std::to_string(testing::UnitTest::GetInstance()->random_seed()) + "_" +
+                     std::to_string(getpid()));
+  Percorso ditta = radice / "ditta", installato = radice / "doc";
+  Piattaforma_Finta macchina;
+  Programma programma{macchina};
+};
+
+TEST_F(Manuale, QuelloDellaDittaPrimaDiQuelloInstallato) {
+  metti(installato / "Velmara_Guida.pdf");
+  ApriManuale(programma, Testo_Percorso(installato));
+  EXPECT_THAT(macchina.aperti, testing::ElementsAre(installato / "Velmara_Guida.pdf"));
+  metti(ditta / "Velmara_Guida.pdf");
+  ApriManuale(programma, Testo_Percorso(installato));
+  EXPECT_EQ(macchina.aperti.back(), ditta / "Velmara_Guida.pdf");
+  EXPECT_THAT(macchina.messaggi, testing::IsEmpty());
+}
+
+// Folders come over from machines that do not care about letter case.
+TEST_F(Manuale, SiTrovaComunqueSiaScritto) {
+  metti(ditta / "VELMARA_guida.PDF");
+  EXPECT_EQ(CercaManuale(programma, Testo_Percorso(installato)), ditta / "VELMARA_guida.PDF");
+}
+
+TEST_F(Manuale, SeMancaSiDiceDoveMetterlo) {
+  std::filesystem::create_directories(ditta / "Velmara_Guida.pdf");  // a folder is no manual
+  ApriManuale(programma, Testo_Percorso(installato));
+  EXPECT_THAT(macchina.aperti, testing::IsEmpty());
+  ASSERT_EQ(macchina.messaggi.size(), 1U);
+  EXPECT_THAT(macchina.messaggi[0], HasSubstr("Il manuale non c'è su questo computer."_t));
+  EXPECT_THAT(macchina.messaggi[0], HasSubstr("Velmara_Guida.pdf"));
+  EXPECT_THAT(macchina.messaggi[0], testing::EndsWith(Testo_Percorso(ditta)));
 }
 
 }  // namespace

@@ -29,7 +29,7 @@ TEST(Apertura, GiornoSenzaRighe) {
   EXPECT_TRUE(g.edita.Elimina.attivo);
   EXPECT_EQ(g.Luce(), "NORMALE");
   EXPECT_EQ(Campo(g.edita, C::Commento).suggerimento, "inserire prezzo - trattamento");
-  for (const char* cartella : {"2025/CV_SI", "2025/CV_NO", "_ReportLear", "XBanca"})
+  for (const char* cartella : {"2025/CV_SI", "2025/CV_NO", "_ReportLear", "XBanca", "2025_fat/20250314"})
     EXPECT_TRUE(g.programma.disco.Esiste_Cartella(g.cartella / cartella)) << cartella;
 }
 
@@ -372,6 +372,50 @@ TEST(Comandi, QuelliIgnotiSonoSpenti) {
   EXPECT_FALSE(StatoComando(g.programma, g.edita, "BottoneDDT").visibile);
 }
 
+// The screens of documents, accounts and statistics open over a row that is perhaps half keyed.
+TEST(Ripresa, UnaRigaRimastaComEraLasciaQuantoSiStaScrivendo) {
+  Giornata_Di_Prova g;
+  g.programma.Vet_Tabella.righe = {g.RigaDelGiorno(1, "Laguna Pesca", "00123"),
+                                   g.RigaDelGiorno(2, "Trattoria Lido", "00124")};
+  g.Apri();
+  VaiRiga(g.programma, g.edita, 2);
+  g.Scrivi(C::Peso, "77");
+  const LedgerRow prima = RigaCorrente(g.programma, g.edita);
+  g.programma.Vet_Tabella(C::DDT, 1) = "004";
+  const unsigned versione = g.edita.albero.ListaVoci.versione;
+  RiprendiEdita(g.programma, g.edita, prima);
+  EXPECT_EQ(g[C::Peso], "77");
+  EXPECT_NE(g.edita.albero.ListaVoci.versione, versione) << "the list shows the other row's number";
+}
+
+TEST(Ripresa, UnaRigaCambiataTornaNeiCampi) {
+  Giornata_Di_Prova g;
+  g.programma.Vet_Tabella.righe = {g.RigaDelGiorno(1, "Laguna Pesca", "00123"),
+                                   g.RigaDelGiorno(2, "Trattoria Lido", "00124")};
+  g.Apri();
+  VaiRiga(g.programma, g.edita, 2);
+  g.Scrivi(C::Peso, "77");
+  const LedgerRow prima = RigaCorrente(g.programma, g.edita);
+  g.programma.Vet_Tabella(C::DDT, 2) = "004";
+  RiprendiEdita(g.programma, g.edita, prima);
+  EXPECT_EQ(g[C::Peso], "10");
+  EXPECT_EQ(g[C::DDT], "004");
+}
+
+TEST(Ripresa, UnaGiornataAccorciataTieneUnaRigaScelta) {
+  Giornata_Di_Prova g;
+  g.programma.Vet_Tabella.righe = {g.RigaDelGiorno(1, "Laguna Pesca", "00123"),
+                                   g.RigaDelGiorno(2, "Trattoria Lido", "00124")};
+  g.Apri();
+  VaiRiga(g.programma, g.edita, 2);
+  const LedgerRow prima = RigaCorrente(g.programma, g.edita);
+  g.programma.Vet_Tabella.righe.pop_back();
+  RiprendiEdita(g.programma, g.edita, prima);
+  EXPECT_EQ(g.edita.hd.valore, 1);
+  EXPECT_EQ(g.edita.hd.massimo, 1);
+  EXPECT_EQ(g[C::Cliente], "Laguna Pesca");
+}
+
 TEST(Comandi, IDocumentiImmediatiSeguonoLeImpostazioni) {
   Giornata_Di_Prova g;
   g.Apri();
@@ -394,17 +438,18 @@ TEST(Comandi, VociDiMenu) {
   }
   EXPECT_THAT(
       funzionano,
-      ElementsAre(
-          "Cancella Tutto", "Salva", "Vettori", "Controllo CV", "Stampa Schermo", "Chiudi",
-          "Preferenze Operative", "Preferenze per Doc. Sanitario e DDI", "Preferenze Fatture Personalizzate",
-          "Stampante", "Colore Lista", "Rinnova Liste", "Mediterraaneo FAO 37", "Tutto l Mondo",
-          "Per Immissione", "Per Fornitore", "Per Cliente", "Per Cliente e specie", "per Codice Cliente",
-          "Per Specie", "Per Prezzo", "Per Num. Conto Vendita", "Per Provenienza", "per aliquota IVA",
-          "Per Fattura", "Per DDT", "Per Fornitore+Specie+Immissione", "Per Attrezzo di pesca",
-          "Per Pezzatura", "Per Stato Fisico", "Per Lavorazione", "Per Preparazione", "Come Doc Sanitario",
-          "PrefSpecie", "PrefFornitori", "&Lista_F12", "Aiuto", "Lotti", "Fatture 1", "Fatture 2",
-          "Transazioni", "Numerazione DDT e DS", "Specie e Fornitori Predefiniti", "Prezzo per cassa",
-          "Export Prima Nota Esteso", "Campi", "Stampa Liste", "salva lista Specie", "Etichette", "Marca"));
+      ElementsAre("Cancella Tutto", "Salva", "Vettori", "Controllo CV", "Stampa Schermo", "Chiudi",
+                  "Preferenze Operative", "Preferenze per Doc. Sanitario e DDI",
+                  "Preferenze Fatture Personalizzate", "Stampante", "Colore Lista", "Rinnova Liste",
+                  "Mediterraaneo FAO 37", "Tutto l Mondo", "Per Immissione", "Per Fornitore", "Per Cliente",
+                  "Per Cliente e specie", "per Codice Cliente", "Per Specie", "Per Prezzo",
+                  "Per Num. Conto Vendita", "Per Provenienza", "per aliquota IVA", "Per Fattura", "Per DDT",
+                  "Per Fornitore+Specie+Immissione", "Per Attrezzo di pesca", "Per Pezzatura",
+                  "Per Stato Fisico", "Per Lavorazione", "Per Preparazione", "Come Doc Sanitario",
+                  "PrefSpecie", "PrefFornitori", "&Lista_F12", "Aiuto", "Lotti", "Fatture 1", "Fatture 2",
+                  "Transazioni", "Numerazione DDT e DS", "Specie e Fornitori Predefiniti", "Prezzo per cassa",
+                  "Export Prima Nota Esteso", "Campi", "Stampa Liste", "salva lista Specie", "Etichette",
+                  "Manuale", "Marca"));
   Marca(g.edita);
   EXPECT_EQ(DidascaliaMenu(g.edita, Menu().back()), "SMarca");
 }

@@ -186,6 +186,14 @@ TEST(LottiPredefiniti, LetturaEScrittura) {
   EXPECT_EQ(g.cartella.Contenuto("LottiPredeiniti.txt"), "L1\r\nL2\r\nL\x80 3\r\nL4\r\n");
 }
 
+// A line of NULs has nothing that could be chosen, or saved.
+TEST(LottiPredefiniti, UnaRigaDiByteNulliNonEUnLotto) {
+  Giornata_Lotti g;
+  g.MettiFile(Testo("L1\r\n\0 \0\r\nL2", 11));
+  Apri_LottiPredefiniti(g.programma, g.lista);
+  EXPECT_THAT(g.lista.lotti, ElementsAre("L1", "L2"));
+}
+
 TEST(LottiPredefiniti, SenzaFile) {
   Giornata_Lotti g;
   Apri_LottiPredefiniti(g.programma, g.lista);

@@ -408,6 +408,30 @@ TEST(Schermo, F2EF6ChiedonoLeSchermateDiAltreStanze) {
   }
 }
 
+// One firm's own key, on the supplier alone; for the others Shift+F1 does nothing.
+TEST(Tasti, MaiuscoleF1SulFornitoreApreLaSecondaStatistica) {
+  struct Caso {
+    const char* codice;
+    C campo;
+    Pressione pressione;
+    const char* schermo;
+  };
+  const Pressione maiuscole_f1 = {.tasto = Tasto::F1, .maiuscole = true};
+  const Caso casi[] = {{"Lagomar", C::Fornitore, maiuscole_f1, "Stat2"},
+                       {"Lagomar", C::Cliente, maiuscole_f1, ""},
+                       {"Lagomar", C::Fornitore, {.tasto = Tasto::F2, .maiuscole = true}, ""},
+                       {"Lagomar", C::Fornitore, {.tasto = Tasto::F1, .maiuscole = true, .ctrl = true}, ""},
+                       {"Tolvera", C::Fornitore, maiuscole_f1, ""},
+                       {"0", C::Fornitore, maiuscole_f1, ""}};
+  for (const auto& [codice, campo, pressione, schermo] : casi) {
+    Giornata_Di_Prova g;
+    g.programma.preferenze.Codice_Commissionario = codice;
+    g.Apri();
+    TastoCampo(g.programma, g.edita, Indice(campo), pressione);
+    EXPECT_EQ(g.edita.schermo, schermo) << codice << " " << n(campo);
+  }
+}
+
 TEST(Schermo, F4SoloConModificaAttiva) {
   Giornata_Di_Prova g;
   g.Apri();

@@ -178,6 +178,8 @@ TEST_F(Pagine_Grafiche, NomiELottiLunghiNonEntranoNelleColonneVicine) {
     EXPECT_LE(nome, 102 - 2);
     EXPECT_GT(lotto, 15);
     EXPECT_LE(lotto, 22 - 2);
+    EXPECT_THAT(registro.righe,
+                Contains(HasSubstr("  Lotto: " + riga[CampoRiga::Lotti])));  // whole, for the law
     registro = {};
   }
 }

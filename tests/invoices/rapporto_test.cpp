@@ -43,10 +43,10 @@ TEST_F(Rapporto, BytePerByte) {
             "Fat n.00128 a: 00345 per euro       0,50\r\n"
             "Fat n.00129 a: 00700 per euro   10000,05\r\n"
             "*************** Totale euro =   11234,55\r\n"
-            " \r\n"
+            "\r\n"
             "Note di credito\r\n"
             "numero Note di credito = 1\r\n"
-            " \r\n"
+            "\r\n"
             "Nac n.NA005 a: 00345 per euro     -12,35\r\n"
             "*************** Totale euro =     -12,35\r\n");
 }
@@ -57,7 +57,7 @@ TEST_F(Rapporto, ConLaCartellaVuotaETuttoZero) {
   EXPECT_EQ(Report(),
             " \r\nReport Fatture emesse il 14/03/2025 da: Ittica Laguna\r\nnumero Fatture emesse = 0\r\n \r\n"
             "*************** Totale euro =       0.00\r\n"
-            " \r\nNote di credito\r\nnumero Note di credito = 0\r\n \r\n"
+            "\r\nNote di credito\r\nnumero Note di credito = 0\r\n\r\n"
             "*************** Totale euro =       0.00\r\n");
 }
 

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "invoices/file_fatture.h"
+#include "invoices/pagine_testo.h"
 #include "invoices/rapporto.h"
 #include "printing/registratore.h"
 #include "tests/invoices/fatture_di_prova.h"
@@ -26,6 +27,7 @@ struct Stampe_Fatture : Fatture_Di_Prova, testing::Test {
   Stampe_Fatture() {
     macchina.dispositivo = &printer;
     programma.preferenze.Codice_Commissionario = "42";
+    programma.preferenze.Numero_Posteggio = "12";
     programma.Ragione[0] = "Ittica Laguna";
     Vendi("00101", "10", "007", "");
     Vendi("00102", "5,5", "008", "");
@@ -86,11 +88,11 @@ TEST_F(Stampe_Fatture, UnaCorsaScriveFileEReport) {
 
 TEST_F(Stampe_Fatture, LaDidascaliaDiceACheePunto) {
   Esegui();
-  EXPECT_THAT(titoli,
-              ElementsAre("Cancellazione Fatture e Transazioni di oggi...", "Controlo numerazione....",
-                          "00101 Pagina 1 di 1 in corso...", "00101 Pagina 1 di 1 in corso...",
-                          "00102 Pagina 1 di 1 in corso...", "Prepara i report...",
-                          "Prepara file transazioni con vet_report", "Fatturazione"));
+  EXPECT_THAT(titoli, ElementsAre("Cancellazione Fatture e Transazioni di oggi...",
+                                  "Controlo numerazione....", "00101 Pagina 1 di 1 in corso...",
+                                  "00101 Pagina 1 di 1 in corso...", "00102 Pagina 1 di 1 in corso...",
+                                  "Prepara i report...", "Selezione documenti....", "Selezione documenti....",
+                                  "Prepara file transazioni con vet_report", "Fatturazione"));
   EXPECT_THAT(attiva, ElementsAre(false, true));
 }
 
@@ -361,10 +363,46 @@ TEST_F(Stampe_Fatture, LaConfermaDiceComeSiGiraIlFoglio) {
   }
 }
 
-TEST_F(Stampe_Fatture, LeTransazioniVengonoDopoIReport) {
-  stampa.transazioni = [&](Programma&) { EXPECT_THAT(Report(), HasSubstr("Note di credito")); };
+// The bank's file is a carrier's affair: other firms see the caption pass and get none.
+TEST_F(Stampe_Fatture, SenzaVettoreNonSiScrivonoTransazioni) {
   EXPECT_TRUE(Esegui());
   EXPECT_EQ(titoli[titoli.size() - 2], "Prepara file transazioni con vet_report");
+  EXPECT_FALSE(programma.disco.Esiste_Cartella(cartella / "XBanca"));
+  EXPECT_FALSE(programma.disco.Esiste_Cartella(cartella / "_ReportLear"));
+}
+
+// What a credit note is drawn by goes with the firm.
+TEST_F(Stampe_Fatture, LaNotaDisegnataSegueIlProfilo) {
+  struct Caso {
+    Vista ditta;
+    bool completa;
+    Testo titolo;
+    bool intestazione_in_riga;
+  };
+  const Caso casi[] = {{"Altinel", false, "Nota di Credito n. NA004", false},
+                       {"Cavarzo", true, "Nota di Credito n. NA004", false},
+                       {"Brenval", false, "Nota di Credito n. NA004", true},
+                       {"Burvano", true, "Nota di Credito n. NA004", true},
+                       {"42", false, "NOTA CREDITO N. NA004", false},
+                       {"42", true, "Nota di Credito n. NA004", true}};
+  stampa.fatture.clear();
+  stampa.scelte.Personalizzata = true;
+  for (const auto& [ditta, completa, titolo, intestazione_in_riga] : casi) {
+    programma.preferenze.Codice_Commissionario = ditta;
+    stampa.scelte.Completa = completa;
+    registro = {};
+    EXPECT_TRUE(Esegui());
+    EXPECT_THAT(registro.righe, Contains(HasSubstr(titolo))) << ditta;
+    const auto in_riga = HasSubstr("Ittica Laguna - 12 cod. " + Testo(ditta));
+    EXPECT_THAT(registro.righe, testing::Contains(in_riga).Times(intestazione_in_riga ? 1 : 0)) << ditta;
+  }
+}
+
+TEST_F(Stampe_Fatture, SoloIFileDeiDocumentiVannoSuCarta) {
+  cartella.Metti("x_11.doc", "x");
+  for (const Percorso& nome : {Percorso(), cartella / "x_11.doc", cartella / "non_ce_11.txt"})
+    StampaFileTesto(programma, nome, TipoFattura::Fattura);
+  EXPECT_THAT(registro.righe, IsEmpty());
 }
 
 // ---- one document

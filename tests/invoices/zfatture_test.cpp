@@ -1,5 +1,6 @@
 #include "invoices/zfatture.h"
 
+#include <chrono>
 #include <gmock/gmock.h>
 
 #include "tests/invoices/fatture_di_prova.h"
@@ -639,6 +640,64 @@ TEST_F(ZFatture_Test, ChiusaNonSiChiudeDiNuovo) {
   ChiudiFatture(programma, zfatture);
   ChiudiFatture(programma, zfatture);
   EXPECT_THAT(macchina.messaggi, ElementsAre(messaggio_chiusura));
+}
+
+// ---- print boxes
+
+TEST_F(ZFatture_Test, LArchivioEIClienti) {
+  Giornata();
+  Apri();
+  Scrivi("121");
+  NumeraFat(programma, zfatture);
+  zfatture.Tutte.segnata = false;
+  Archivio(programma, zfatture);
+  EXPECT_EQ(zfatture.Command6.testo, "Archivio");
+  EXPECT_TRUE(zfatture.Stampale.segnata);
+  EXPECT_TRUE(zfatture.Tutte.segnata);
+  EXPECT_TRUE(zfatture.Paginax2.segnata);
+  Archivio(programma, zfatture);
+  EXPECT_EQ(zfatture.Command6.testo, "x Clienti");
+  EXPECT_FALSE(zfatture.Stampale.segnata);
+  EXPECT_TRUE(zfatture.Tutte.segnata);
+  EXPECT_FALSE(zfatture.Paginax2.segnata);
+  // two of the three alone are not the archive yet
+  zfatture.Stampale.segnata = true;
+  Archivio(programma, zfatture);
+  EXPECT_EQ(zfatture.Command6.testo, "Archivio");
+}
+
+TEST_F(ZFatture_Test, DoppioClicFuoriDallaLista) {
+  Giornata();
+  Apri();
+  DoppioClic(programma, zfatture, Fattura, 9);
+  DoppioClic(programma, zfatture, Nota, -1);
+  EXPECT_THAT(macchina.domande, IsEmpty());
+  EXPECT_THAT(macchina.messaggi, IsEmpty());
+}
+
+// ---- a big day
+
+// 300 customers of whom every tenth has a note: everything but the paper in a blink.
+TEST_F(ZFatture_Test, UnGiornoGrande) {
+  programma.Vet_Clienti.clear();
+  for (int c = 0; c < 300; ++c) {
+    const Testo codice = Pad_Sinistra(std::to_string(c), 5, '0');
+    programma.Vet_Clienti.push_back({codice, "Cliente " + codice, "", "", "", "", "-", "-", ""});
+  }
+  for (int r = 0; r < 3000; ++r)
+    Vendi(Pad_Sinistra(std::to_string(r % 300), 5, '0'), r % 10 == 9 ? "-5" : "7");
+  const auto prima = std::chrono::steady_clock::now();
+  Apri();
+  Scrivi("121");
+  Scrivi("4");
+  NumeraTutto(programma, zfatture);
+  ChiudiFatture(programma, zfatture);
+  EXPECT_LT(std::chrono::steady_clock::now() - prima, std::chrono::seconds(2));
+  EXPECT_EQ(zfatture.TabellaFatture.size(), 270U);
+  EXPECT_EQ(zfatture.TabellaNote.size(), 30U);
+  EXPECT_EQ(programma.Ultima_Fattura, 390);
+  EXPECT_EQ(programma.Ultima_NA, 33);
+  for (const LedgerRow& riga : programma.Vet_Tabella.righe) ASSERT_NE(riga[C::FAT], "") << riga[C::Num];
 }
 
 }  // namespace

@@ -161,7 +161,8 @@ TEST_F(Clienti, CentomilaClientiSiLeggonoInUnAttimo) {
   const std::chrono::duration<double> durata = std::chrono::steady_clock::now() - inizio;
   ASSERT_THAT(programma.Vet_Clienti, SizeIs(100000));
   EXPECT_EQ(programma.Vet_Clienti.back()[cliente::Codice], "99999");
-  EXPECT_LT(durata.count(), 1.0);
+  // Quadratic reading would take minutes; this limit holds on a busy machine and with sanitizers too.
+  EXPECT_LT(durata.count(), 10.0);
   EXPECT_EQ(Cerca_Cliente_Per_Codice(programma, "99999"), 99999);
 }
 

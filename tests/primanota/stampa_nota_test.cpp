@@ -170,4 +170,21 @@ TEST_F(Nota_Su_Carta, UnTestoLungoSiStringeNellaColonna) {
   EXPECT_THAT(Posti("00123  Pescheria Rialto"), SizeIs(1));
 }
 
+// Goods are traced by their lot: none of it may run off the sheet. Broken at a blank, or where it must be.
+TEST_F(Nota_Su_Carta, UnLottoLungoVaSuPiuLinee) {
+  std::vector<LedgerRow> righe = {Riga(1, "Laguna"), Riga(2, "Laguna"), Riga(3, "Laguna")};
+  righe[0][CampoRiga::Lotti] = "LAGP250313 LAGP250314 LAGP250315 LAGP250316";
+  righe[1][CampoRiga::Lotti] = Testo(60, '8');
+  righe[2][CampoRiga::Lotti] = "LAGP250313";
+  Stampa(righe);
+  EXPECT_THAT(Posti("LAGP250313 LAGP250314 LAGP250315"), testing::ElementsAre("p1 testo 176.00 72.00"));
+  EXPECT_THAT(Posti("LAGP250316"), testing::ElementsAre("p1 testo 176.00 73.90"));
+  const auto seconda = Segni("testo 176.00 79.00"), resto = Segni("testo 176.00 80.90");
+  ASSERT_THAT(seconda, SizeIs(1));
+  ASSERT_THAT(resto, SizeIs(1));
+  const auto otto = [](const Testo& riga) { return std::count(riga.begin() + 24, riga.end(), '8'); };
+  EXPECT_EQ(otto(seconda[0]) + otto(resto[0]), 60);
+  EXPECT_THAT(Posti("LAGP250313"), testing::ElementsAre("p1 testo 176.00 86.00"));
+}
+
 }  // namespace

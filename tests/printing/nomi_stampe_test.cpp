@@ -1,5 +1,6 @@
 #include "printing/nomi_stampe.h"
 
+#include <chrono>
 #include <gmock/gmock.h>
 
 #include "tests/core/cartella_temporanea.h"
@@ -54,6 +55,29 @@ TEST(Nomi_Stampe, UnNomeCheCEHaDietroUnNumero) {
   EXPECT_EQ(File_Stampa(disco, cartella.percorso, documento), cartella / "20250314 Fattura 12 00345 (3).pdf");
   std::filesystem::create_directory(cartella / "20250314 Fattura 12 00345 (3).pdf");
   EXPECT_EQ(File_Stampa(disco, cartella.percorso, documento), cartella / "20250314 Fattura 12 00345 (4).pdf");
+}
+
+// A run of hundreds of documents into a folder of years reads it once, and still sees what others put there.
+TEST(NomiStampe, UnaCorsaVedeAncheICambiamentiAltrui) {
+  const Cartella_Temporanea cartella;
+  const Disco disco;
+  Nomi_Stampe nomi;
+  const Documento documento{"20250314", "Fattura", "12", "00345"};
+  const auto stampa = [&] {
+    const Percorso file = nomi.Libero(disco, cartella.percorso, documento);
+    EXPECT_EQ(disco.Scrivi_Nuovo(file, "carta"), 0);
+    nomi.Scritto(disco, file);
+    return Nome_File(file);
+  };
+  EXPECT_EQ(stampa(), "20250314 Fattura 12 00345.pdf");
+  EXPECT_EQ(stampa(), "20250314 Fattura 12 00345 (2).pdf");
+  using namespace std::chrono_literals;
+  cartella.Metti("20250314 FATTURA 12 00345 (3).PDF", "d'altri");
+  std::filesystem::last_write_time(cartella.percorso, std::filesystem::file_time_type::clock::now() + 1s);
+  EXPECT_EQ(stampa(), "20250314 Fattura 12 00345 (4).pdf");
+  std::filesystem::remove(cartella / "20250314 Fattura 12 00345.pdf");
+  std::filesystem::last_write_time(cartella.percorso, std::filesystem::file_time_type::clock::now() + 2s);
+  EXPECT_EQ(stampa(), "20250314 Fattura 12 00345.pdf");
 }
 
 }  // namespace

@@ -114,6 +114,45 @@ TEST_F(Stampa_Immagine_Prova, UnAltraStampanteMisuraIlSuoFoglio) {
   EXPECT_TRUE(schermo.chiusa);
 }
 
+// A printer taken in the properties stays; one taken for this picture only with cmdChiudi.
+TEST_F(Stampa_Immagine_Prova, ChiudendoTornaLaStampanteDelProgramma) {
+  ASSERT_TRUE(Apri());
+  schermo.cboPrinterNames.scelta = 1;
+  CambiaStampante(programma, schermo);
+  Print_FCPB(programma, schermo);
+  LasciaStampante(programma, schermo);
+  EXPECT_EQ(*printer.DeviceName(), "Registro");
+
+  ASSERT_TRUE(Apri());
+  schermo.cboPrinterNames.scelta = 1;
+  CambiaStampante(programma, schermo);
+  ApplicaEChiudi(programma, schermo);
+  LasciaStampante(programma, schermo);
+  EXPECT_EQ(*printer.DeviceName(), "PDF");
+}
+
+TEST_F(Stampa_Immagine_Prova, LaStampanteDelleProprietaStampaLaFigura) {
+  ASSERT_TRUE(Apri(250, 50));
+  ASSERT_EQ(schermo.txtScala.testo, "84");
+  printer.Scegli("PDF", Orizzontale);
+  RiprendiDaProprieta(programma, schermo);
+  EXPECT_EQ(schermo.cboPrinterNames.Scelta(), "PDF");
+  EXPECT_EQ(schermo.fraFoglio.testo, " Foglio: A4,  Landscape");
+  Print_FCPB(programma, schermo);
+  LasciaStampante(programma, schermo);
+  EXPECT_EQ(*printer.DeviceName(), "PDF");
+
+  // upright again the picture at this scale no longer fits
+  schermo.txtScala.testo = "110";
+  ConfermaScala(programma, schermo);
+  printer.Scegli("PDF", Verticale);
+  macchina.risposte = {true};
+  RiprendiDaProprieta(programma, schermo);
+  EXPECT_THAT(macchina.domande, ElementsAre(troppo_grande));
+  EXPECT_EQ(schermo.txtScala.testo, "84");
+  RiprendiDaProprieta(programma, schermo);  // nothing changed, nothing is asked
+}
+
 TEST_F(Stampa_Immagine_Prova, UnaStampanteSparitaSiDiceESiRestaAllaPrima) {
   printer.altre_stampanti = {"Laser"};
   ASSERT_TRUE(Apri());

@@ -42,13 +42,14 @@ void Avviso(QtMsgType tipo, const QMessageLogContext&, const QString& testo) {
   if (tipo == QtFatalMsg) std::abort();
 }
 
-int Figlio(Copione copione, const Percorso& file, const Percorso& radice, Segnalibro& segnalibro, int& argc,
-           char** argv) {
+int Figlio(Copione copione, const Percorso& file, const Percorso& radice, Segnalibro& segnalibro,
+           Album* album, int& argc, char** argv) {
   qInstallMessageHandler(Avviso);
   setenv("XDG_RUNTIME_DIR", radice.c_str(), 0);  // the toolkit makes one elsewhere, which would stay
   QApplication applicazione(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
-  Giornata giornata(std::move(copione), file, radice, [&](int riga) { segnalibro.riga() = riga; });
+  Giornata giornata(
+      std::move(copione), file, radice, [&](int riga) { segnalibro.riga() = riga; }, album);
   return giornata.Gioca();
 }
 
@@ -82,7 +83,7 @@ int Aspetta(pid_t figlio, const std::string& file, Segnalibro& segnalibro) {
 
 }  // namespace
 
-int Gioca_Copione(const Percorso& file, int& argc, char** argv) {
+int Gioca_Copione(const Percorso& file, int& argc, char** argv, Album* album) {
   const std::string nome = file.string();
   try {
     auto letto = Leggi_Copione(Leggi_Byte(file), Forme());
@@ -100,7 +101,7 @@ int Gioca_Copione(const Percorso& file, int& argc, char** argv) {
     std::fflush(stdout);
     const pid_t figlio = fork();
     if (figlio < 0) throw Fallito("un processo", std::strerror(errno));
-    if (figlio == 0) std::exit(Figlio(std::move(copione), file, radice, segnalibro, argc, argv));
+    if (figlio == 0) std::exit(Figlio(std::move(copione), file, radice, segnalibro, album, argc, argv));
     const int esito = Aspetta(figlio, nome, segnalibro);
     Rimuovi(radice);
     return esito;

@@ -62,10 +62,11 @@ void Stampa_Fallita(const std::string& file, int riga, const std::string& passo,
 }
 
 Giornata::Giornata(Copione copione, const Percorso& file, const Percorso& radice,
-                   std::function<void(int)> segna)
+                   std::function<void(int)> segna, Album* album)
     : copione_(std::move(copione)), nome_(file.string()), segna_(std::move(segna)) {
   scena_.accanto = std::filesystem::absolute(file).parent_path();
   scena_.radice = radice;
+  scena_.album = album;
   scena_.macchina.senza_risposta = [this](const std::string& atteso, const std::string& trovato) {
     const Passo& passo = copione_.passi[ultimo_];
     fallisci(passo.riga, passo.scritto, atteso, trovato);

@@ -1,20 +1,35 @@
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
+#include <optional>
 
 #include "tests/runner/esecuzione.h"
 
-// velmara_giornata SCRIPT...: plays working days, each in a fresh copy of its firm's folder. The status is 1
-// when any of them failed.
+// velmara_giornata [--foto FOLDER] SCRIPT...: plays working days, each in a fresh copy of its firm's folder,
+// and puts the pictures that they take into that folder. The status is 1 when any of them failed.
 int main(int argc, char** argv) {
-  if (argc < 2) {
-    std::fprintf(stderr, "usage: velmara_giornata SCRIPT...\n");
+  const bool con_foto = argc > 1 && std::strcmp(argv[1], "--foto") == 0;
+  const int primo = con_foto ? 3 : 1;
+  if (argc <= primo) {
+    std::fprintf(stderr, "usage: velmara_giornata [--foto FOLDER] SCRIPT...\n");
     return 1;
   }
   setenv("QT_QPA_PLATFORM", "offscreen", 0);
+  std::optional<giornata::Album> album;
+  if (con_foto) {
+    const Percorso cartella = std::filesystem::absolute(argv[2]);
+    std::error_code errore;
+    std::filesystem::create_directories(cartella, errore);
+    if (errore) {
+      std::fprintf(stderr, "%s: %s\n", argv[2], errore.message().c_str());
+      return 1;
+    }
+    album.emplace(cartella);
+  }
   int esito = 0;
-  for (int i = 1; i < argc; ++i) {
+  for (int i = primo; i < argc; ++i) {
     int uno = 1;  // the scripts are no arguments of the toolkit
-    if (giornata::Gioca_Copione(argv[i], uno, argv) != 0) esito = 1;
+    if (giornata::Gioca_Copione(argv[i], uno, argv, album ? &*album : nullptr) != 0) esito = 1;
   }
   return esito;
 }

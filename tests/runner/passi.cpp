@@ -9,6 +9,7 @@
 
 #include "platform/finestra.h"
 #include "tests/runner/controlli.h"
+#include "tests/runner/foto.h"
 #include "tests/runner/gesti.h"
 
 namespace giornata {
@@ -64,6 +65,7 @@ void Avvia(Scena& scena, const Argomenti&) {
   std::filesystem::current_path(cartella);
   scena.macchina.terminata = false;
   scena.uscita = false;
+  if (scena.album) scena.macchina.carta = &scena.album->carta(cartella);
   scena.applicazione = std::make_unique<Applicazione>(scena.macchina, cartella);
   scena.applicazione->programma().disco.guasto = [&scena](const Percorso& p) {
     return Guasto(scena, p) ? ENOSPC : 0;
@@ -247,6 +249,15 @@ void Programma_Avviato(Scena& scena, const Argomenti& a) {
     throw Fallito("il programma " + Citato(a[0].testo), trovato.empty() ? "nessuno" : Citato(trovato));
 }
 
+void Foto(Scena& scena, const Argomenti& a) {
+  Esigi_Acceso(scena);
+  Foto_Finestra(scena, a[0].testo);
+}
+void Foto_Della_Carta(Scena& scena, const Argomenti& a) {
+  Esigi_Acceso(scena);
+  Foto_Carta(scena, a[0].testo);
+}
+
 template <void (*passo)(Scena&, const Argomenti&)>
 Esito_Passo Intero(Scena& scena, const Argomenti& argomenti) {
   passo(scena, argomenti);
@@ -314,6 +325,8 @@ constexpr Mossa mosse[] = {
     {"appunti <testo>", Preparazione, Intero<Appunti>},
     {"volume <testo> <testo> <cartella>", Preparazione, Intero<Volume_Montato>},
     {"programma <testo>", Controllo, Intero<Programma_Avviato>},
+    {"foto <nome>", Controllo, Intero<Foto>},
+    {"foto-carta <nome>", Controllo, Intero<Foto_Della_Carta>},
     {"titolo contiene <testo>", Controllo, Intero<Titolo_Contiene>},
     {"titolo <testo>", Controllo, Intero<Titolo_Uguale>},
 };

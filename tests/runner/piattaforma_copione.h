@@ -30,6 +30,7 @@ class Piattaforma_Copione : public Piattaforma {
   std::vector<Volume> volumi;
   std::optional<Stampante> stampante = Stampante{"Registro", false};
   Registratore dispositivo{stampante, pagine};
+  Printer* carta = nullptr;  // real paper, in place of the recorder
   bool terminata = false;
   // A question came for which no fitting answer stood in the queue. Doesn't return: a program that asks again
   // until it is content would never end.
@@ -46,7 +47,7 @@ class Piattaforma_Copione : public Piattaforma {
   Testo Appunti() override { return appunti; }
   std::vector<Volume> Volumi() override { return volumi; }
   std::optional<Stampante> Stampante_Corrente() override { return stampante; }
-  Printer& Dispositivo() override { return dispositivo; }
+  Printer& Dispositivo() override { return carta ? *carta : dispositivo; }
   bool Avvia_Programma(const Percorso& file, const std::vector<Testo>& argomenti) override;
   void Apri_Con_Desktop(const Percorso& file_o_cartella) override;
   void Termina() override { terminata = true; }

@@ -7,6 +7,7 @@
 
 #include "core/disco.h"
 #include "start/screens/applicazione.h"
+#include "tests/runner/foto.h"
 #include "tests/runner/piattaforma_copione.h"
 
 namespace giornata {
@@ -28,6 +29,7 @@ struct Scena {
   Percorso ditta;  // the firm's folder
   bool ditta_scelta = false;
   std::vector<Percorso> guasti;  // what can't be written: files, or folders with all that is in them
+  Album* album = nullptr;        // where the pictures go, when they are wanted
   Piattaforma_Copione macchina;
   std::unique_ptr<Applicazione> applicazione;
   bool uscita = false;        // the operator is on his way out of the program

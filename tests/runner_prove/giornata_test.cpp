@@ -118,8 +118,33 @@ INSTANTIATE_TEST_SUITE_P(
         Caso{"risposta_avanzata", "rispondi OK\nnessun-messaggio\n", 1, "nessuna risposta rimasta in coda"},
         Caso{"messaggio_mancante", "messaggio \"x\"\n", 1, "trovato: nessun messaggio"},
         Caso{"domanda_mancante", "domanda \"x\"\n", 1, "trovato: nessuna domanda"},
+        Caso{"foto_senza_programma", "foto inizio\n", 1, "il programma avviato"},
         Caso{"programma_mancante", "programma \"CopiaDati.exe\"\n", 1, "trovato: nessuno"}),
     [](const auto& caso) { return std::string(caso.param.nome); });
+
+TEST(Runner, LeFotoVannoNellaCartellaChiesta) {
+  const Banco banco;
+  const std::string copione = banco.scrivi(
+      "foto",
+      "ditta base\navvia\nfoto inizio\ntasto Invio\nfinestra Edita\nmenu \"Help\" \"Stampa Liste\"\n"
+      "foto-carta liste\nesci\n");
+  const fs::path foto = banco.cartella() / "foto";
+  EXPECT_EQ(Esegui(copione).stato, 0);
+  EXPECT_FALSE(fs::exists(foto));
+  EXPECT_EQ(Esegui("--foto " + foto.string() + " " + copione).stato, 0);
+  EXPECT_GT(fs::file_size(foto / "inizio.png"), 1000U);
+  EXPECT_GT(fs::file_size(foto / "liste.pdf"), 1000U);
+}
+
+TEST(Runner, FotoDiNienteESbagliata) {
+  const Banco banco;
+  for (const std::string& opzione : {std::string(), "--foto " + (banco.cartella() / "f").string() + " "}) {
+    const Esito esito = Esegui(opzione + banco.scrivi("niente", "ditta base\navvia\nfoto-carta niente\n"));
+    EXPECT_EQ(esito.stato, 1);
+    EXPECT_THAT(esito.scritto, HasSubstr("atteso:  un documento stampato"));
+    EXPECT_EQ(Esegui(opzione + banco.scrivi("nome", "ditta base\navvia\nfoto ../Fuori\n")).stato, 1);
+  }
+}
 
 // With the program's windows, on the firm that the working days share.
 INSTANTIATE_TEST_SUITE_P(

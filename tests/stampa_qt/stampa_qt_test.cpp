@@ -2,9 +2,12 @@
 #include <cmath>
 #include <gmock/gmock.h>
 
+#include <QCoreApplication>
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QImage>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QPrinter>
 #include <QRawFont>
 #include <QRegularExpression>
@@ -262,6 +265,71 @@ TEST_F(Stampa_Qt, SenzaLaCartellaStampeNonCEStampante) {
   EXPECT_THAT(avvisi[0], HasSubstr("non è stato scritto nella cartella\n"_t));
   EXPECT_EQ(stampante.Ultimo_PDF(), Percorso());
   EXPECT_EQ(ditta.cartella.Contenuto("Stampe"), "un file");
+}
+
+// The document screen marks as printed only what came out.
+TEST_F(Stampa_Qt, AllaFineSiSaSeIlDocumentoEUscito) {
+  const auto esce = [&] {
+    stampante.Print("totale");
+    return stampante.EndDoc();
+  };
+  EXPECT_FALSE(stampante.EndDoc()) << "nothing was begun";
+  EXPECT_TRUE(esce());
+  stampante.disco.guasto = [](const Percorso& file) { return file.extension() == ".pdf" ? ENOSPC : 0; };
+  EXPECT_FALSE(esce());
+  stampante.disco.guasto = nullptr;
+  std::filesystem::remove_all(ditta.cartella / "Stampe");
+  ditta.cartella.Metti("Stampe", "un file");
+  EXPECT_FALSE(esce());
+}
+
+// How many points of a third of a millimetre, from the upper edge of the band, have ink in them.
+int Righe_Con_Inchiostro(const QImage& pagina, int da_mm, int a_mm) {
+  constexpr double punti_per_mm = 300 / 25.4;
+  int righe = 0;
+  for (int y = static_cast<int>(da_mm * punti_per_mm); y < static_cast<int>(a_mm * punti_per_mm); ++y)
+    for (int x = 0; x < pagina.width(); ++x)
+      if (qGray(pagina.pixel(x, y)) < 128) {
+        ++righe;
+        break;
+      }
+  return righe;
+}
+
+// The first line of the letterhead stands a millimetre above the edge: the firm's name must be whole all the
+// same. What lies beyond the edge altogether stays there.
+TEST_F(Stampa_Qt, UnaRigaCheSporgeDalBordoEIntera) {
+  stampante.ScaleMode(Scala_Millimetri);
+  stampante.FontSize = 10;
+  for (const float y : {-1.0F, 20.0F, -9.0F}) {
+    stampante.CurrentX = 30;
+    stampante.CurrentY = y;
+    stampante.Print("SOCIETÀ D'ORO"_t);
+  }
+  stampante.EndDoc();
+  const QString immagine = In_Qt(ditta.cartella / "pagina");
+  Esegui("pdftoppm", {"-r", "300", "-png", "-singlefile", In_Qt(stampante.Ultimo_PDF()), immagine});
+  const QImage pagina(immagine + ".png");
+  ASSERT_FALSE(pagina.isNull());
+  EXPECT_NEAR(Righe_Con_Inchiostro(pagina, 0, 15), Righe_Con_Inchiostro(pagina, 15, 30), 1);
+}
+
+// Keys pressed while all the documents come out would bring them all out once more; a commit takes no time
+// and keeps what is typed ahead.
+TEST_F(Stampa_Qt, DopoUnLavoroLungoITastiPremutiSiButtano) {
+  Piattaforma_Qt macchina(stampante);
+  QLineEdit campo;
+  const auto lavora = [&](double secondi) {
+    macchina.Occupato(true);
+    macchina.Attendi(secondi);
+    macchina.Ridipingi();
+    QCoreApplication::postEvent(&campo, new QKeyEvent(QEvent::KeyPress, Qt::Key_7, Qt::NoModifier, "7"));
+    macchina.Occupato(false);
+    QCoreApplication::processEvents();
+    return campo.text().toStdString();
+  };
+  EXPECT_EQ(lavora(0.4), "");
+  EXPECT_EQ(lavora(0.05), "7");
 }
 
 // Of a run only the first lost document is told; the operator who tries that one again hears of it again.

@@ -1,5 +1,3 @@
-#include <fstream>
-
 #include <QElapsedTimer>
 #include <QThread>
 
@@ -68,7 +66,7 @@ struct Coda : testing::Test {
     Esigi_Testi_Al_Posto(registro, file, bordo_x, bordo_y);
   }
 
-  const Percorso uscita = std::getenv("VELMARA_CODA");  // NOLINT(concurrency-mt-unsafe): one thread
+  const Percorso uscita = qgetenv("VELMARA_CODA").toStdString();
   Ditta_Di_Prova ditta;
   Programma& programma = ditta.programma;
   Stampante_Qt stampante{ditta.cartella.percorso};

@@ -121,6 +121,21 @@ TEST_F(Copia_Del_Giorno, Una_chiavetta_tolta_non_e_una_copia) {
   EXPECT_EQ(Letto(qui), "righe");
 }
 
+// Nor is its place made anew on the machine's own disk, where the copy would be told as done.
+TEST_F(Copia_Del_Giorno, Il_posto_di_una_chiavetta_tolta_non_rinasce) {
+  Metti(qui, "righe");
+  std::filesystem::remove(chiavetta);
+  for (const bool ancora_in_elenco : {true, false}) {
+    if (!ancora_in_elenco) macchina.volumi.clear();
+    macchina.messaggi.clear();
+    macchina.risposte = {true};
+    Copia(false);
+    ASSERT_EQ(macchina.messaggi.size(), 1U);
+    EXPECT_THAT(macchina.messaggi[0], HasSubstr("non c'è più"_t));
+    EXPECT_FALSE(std::filesystem::exists(chiavetta));
+  }
+}
+
 TEST_F(Copia_Del_Giorno, Un_anno_scritto_male_non_esce_dalla_cartella) {
   inizio.Text3.testo = "../altra";
   macchina.risposte = {true};

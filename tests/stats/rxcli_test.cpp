@@ -43,6 +43,23 @@ TEST_F(TotaliClienti, LaGiornataTornaNellOrdineDiImmissione) {
   EXPECT_FALSE(programma.Tabella_Modificata);
 }
 
+// The day is saved in the order of the table: row 10000 of a big day must not come back before row 1001.
+TEST_F(TotaliClienti, LOrdineDiImmissioneVaPerNumero) {
+  programma.Vet_Tabella.righe.resize(3);
+  programma.Vet_Tabella.righe[0][CampoRiga::Num] = "1000";
+  programma.Vet_Tabella.righe[1][CampoRiga::Num] = "1001";
+  programma.Vet_Tabella.righe[2][CampoRiga::Num] = "10000";
+  const auto prima = programma.Vet_Tabella.righe;
+  Apri_RXcli(programma, schermo);
+  EXPECT_EQ(programma.Vet_Tabella.righe, prima);
+  EXPECT_EQ(programma.Colonna_Ordine, 1);
+}
+
+TEST_F(TotaliClienti, LeRigheIllegibiliSiDicono) {
+  Apri_RXcli(programma, schermo);
+  EXPECT_EQ(schermo.Avviso.testo, "righe senza peso o prezzo leggibile: 1");
+}
+
 TEST_F(TotaliClienti, SenzaOrdinareOgniCambioDiClienteConta) {
   CalcolaPerCliente(programma, schermo, 0);
   EXPECT_THAT(Righe_Di(schermo.ListaClienti),

@@ -94,7 +94,9 @@ TEST_F(SaldoFornitori, DateCheNonVanno) {
       {"20250309", "20250312", "primo file: sistemare le date da...a (il primo file è 20250310.txt)"_t},
       {"20250310", "20250313", "ultimo file: sistemare le date da...a (il primo file è 20250312.txt)"_t},
       {"20240310", "20240312", "primo file: sistemare le date da...a (il primo file è 20250310.txt)"_t},
-      {"20260310", "20260312", "ultimo file: sistemare le date da...a (il primo file è 20250312.txt)"_t}};
+      {"20260310", "20260312", "ultimo file: sistemare le date da...a (il primo file è 20250312.txt)"_t},
+      {"20250313", "20250310", "ultimo file: sistemare le date da...a (il primo file è 20250312.txt)"_t},
+      {"20250312", "20250309", "primo file: sistemare le date da...a (il primo file è 20250310.txt)"_t}};
   for (const Caso& caso : casi) {
     macchina.messaggi.clear();
     EXPECT_THAT(Calcola(caso.da, caso.a, Per_Fornitore), IsEmpty());
@@ -117,6 +119,15 @@ TEST_F(SaldoFornitori, LaDomandaDiceIlPrimoELUltimoFile) {
       ElementsAre("Il calcolo comincia da:\n20250310.txte finisce con: 20250312.txt..... OK per continuare"));
   EXPECT_THAT(macchina.messaggi, IsEmpty());
   EXPECT_EQ(cartella.Contenuto("zzzztemp.txt"), "(manca)");
+}
+
+TEST_F(SaldoFornitori, AnnullandoLaListaRestaComEra) {
+  const auto prima = Calcola_OK("20250310", "20250312", Per_Fornitore);
+  macchina.risposte = {false};
+  EXPECT_EQ(Calcola("20250312", "20250312", Per_Specie), prima);
+  EXPECT_EQ(Calcola("2025", "20250312", Per_Specie), prima);
+  Salva_Saldo(programma, schermo);
+  EXPECT_THAT(cartella.Contenuto("Statistiche/20250310_20250312.txt"), HasSubstr(prima[0]));
 }
 
 TEST_F(SaldoFornitori, PerSpecieConITotali) {

@@ -66,6 +66,20 @@ TEST_F(StatisticaDelGiorno, NumeriIllegibiliLascianoIlCampoComEra) {
               "A                    | Orata               | abc      | 3        | 9999    ");
 }
 
+// Whatever the place of a row that can't be read, the others of its species are all in the sum.
+TEST_F(StatisticaDelGiorno, UnaRigaIllegibileNonPortaViaLeAltre) {
+  const Vendita buona = {"A", "Orata", "2", "10"}, altra = {"A", "Orata", "3", "10"};
+  for (const Vendita& storta : {Vendita{"A", "Orata", "abc", "5"}, Vendita{"A", "Orata", "0", "abc"}}) {
+    for (const auto& vendite :
+         {std::vector<Vendita>{storta, buona, altra}, {buona, storta, altra}, {buona, altra, storta}})
+      EXPECT_THAT(Apri(vendite)[0],
+                  "A                    | Orata               | 5        | 53       | 10,60   ");
+    EXPECT_EQ(schermo.Avviso.testo, "righe senza peso o prezzo leggibile: 1");
+  }
+  Apri({buona});
+  EXPECT_EQ(schermo.Avviso.testo, "");
+}
+
 TEST_F(StatisticaDelGiorno, NomiLunghiSiTagliano) {
   EXPECT_THAT(
       Apri({{"Cooperativa Pescatori Chioggia", "Canocchia o cicala di mare", "123456,789", "100"}})[0],
@@ -161,6 +175,16 @@ TEST_F(StatisticaDelGiorno, StampaIlFornitoreScelto) {
               Contains(HasSubstr("courier new 11 grassetto: b                    | Sgombro")));
   EXPECT_THAT(registro.righe, Not(Contains(HasSubstr("totale importo"))));
   EXPECT_THAT(registro.righe, Not(Contains(HasSubstr("A           "))));
+}
+
+TEST_F(StatisticaDelGiorno, SenzaStampanteNonSiStampaESiRestaPronti) {
+  Apri({{"A", "Orata", "1", "5"}});
+  macchina.stampante.reset();
+  Stampa_Statistica(programma, schermo);
+  Stampa_Barre(programma, schermo);
+  EXPECT_THAT(registro.righe, IsEmpty());
+  EXPECT_TRUE(schermo.attiva);
+  EXPECT_EQ(schermo.titolo, "Statistica del giorno");
 }
 
 TEST_F(StatisticaDelGiorno, Salva) {
