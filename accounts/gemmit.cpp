@@ -178,7 +178,6 @@ void Elabora_E_Stampa(const Programma& programma, Zgemmit& zgemmit, std::size_t 
   Scrivi_File(programma, zgemmit, *documento);
 }
 
-// Nobody is left out, whatever the question says.
 void Nascondi_Anteprima(const Programma& programma, Zgemmit& zgemmit) {
   zgemmit.Anteprima.visibile = false;
   zgemmit.titolo = Titolo_Apertura(programma);
@@ -186,6 +185,7 @@ void Nascondi_Anteprima(const Programma& programma, Zgemmit& zgemmit) {
   AggiornaComandi(programma, zgemmit);
 }
 
+// Nobody is left out, whatever the question says.
 void Stampa_Tutti(const Programma& programma, Zgemmit& zgemmit) {
   if (zgemmit.Tabella_CV.empty() ||
       !programma.piattaforma.Domanda(

@@ -11,7 +11,7 @@ int main(int argomenti, char** testi) {
   const QApplication qt(argomenti, testi);
   QApplication::setApplicationName(QStringLiteral("velmara"));
   QApplication::setDesktopFileName(QStringLiteral("velmara"));
-  Prepara_Caratteri();
+  Prepara_Aspetto();
   const Percorso programmi(QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString());
   const Percorso radice(QFile::encodeName(QDir::home().filePath(QStringLiteral("Velmara"))).toStdString());
   DitteFinestra finestra(programmi, radice);

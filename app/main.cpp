@@ -11,7 +11,7 @@ int main(int argomenti, char** testi) {
   QApplication qt(argomenti, testi);
   QApplication::setApplicationName(QStringLiteral("Velmara_2020"));
   QApplication::setQuitOnLastWindowClosed(false);  // the program ends when its own routines say so
-  Prepara_Caratteri();
+  Prepara_Aspetto();
 
   // All of the firm's data lies in and under the folder of the program itself.
   const QString cartella = QCoreApplication::applicationDirPath();

@@ -151,6 +151,9 @@ void Aggiunta(benchmark::State& stato, const Ditta& ditta) {
 void Controllo_Conti(benchmark::State& stato, const Ditta& ditta) {
   Giornata giornata(ditta, righe_poche);
   Programma& programma = giornata.programma;
+  Registro_Pagine registro;
+  Registratore printer(giornata.macchina.stampante, registro);
+  giornata.macchina.dispositivo = &printer;
   const Percorso cartella = programma.Cartella_Anno / "CV_NO";
   programma.disco.Crea_Cartella(cartella);
   const int conti = static_cast<int>(stato.range(0));

@@ -96,6 +96,8 @@ int main(int argc, char** argv) {
   Avvia(programma, ditta.Cartella(), blocco, [] { return std::optional<PrimoAvvio>(); });
   Carica_Inizio(programma, inizio);
   Apri_Giorno(programma, inizio);
+  Edita edita;
+  Apri_Edita(programma, edita);
   Riempi_Giorno(programma, clienti);
 
   double totale = 0;

@@ -81,10 +81,21 @@ struct Pagina_Intestata {
   bool cornice;
   float alto = static_cast<float>(BordoAlto(programma));
   float sinistra = static_cast<float>(BordoSinistro(programma) + 1);
+  float larga = Larga();  // the table
   char separatore = programma.Separatore_Decimale;
 
+  // Where the margin leaves less than the whole width, the description gives way: no amount runs off the
+  // paper.
+  float Larga() {
+    constexpr float almeno = 130;
+    const float posto = std::max(foglio.Penna().ScaleWidth() - sinistra, almeno);
+    const float meno = std::max(Larghezza_Tabella - posto, 0.0F);
+    tracciato.colonne.front().largo -= meno;
+    return Larghezza_Tabella - meno;
+  }
+
   void Testata(int pagina, int pagine) {
-    foglio.A_Destra(sinistra, alto, Larghezza_Tabella, Numero_Pagina(tracciato.pagina, pagina, pagine), 8);
+    foglio.A_Destra(sinistra, alto, larga, Numero_Pagina(tracciato.pagina, pagina, pagine), 8);
     constexpr float largo_ragione = 160;
     for (const Riga_Ragione& riga : Ragione(programma))
       foglio.Scrivi(sinistra + riga.x, alto + riga.y, riga.testo, riga.corpo, true, largo_ragione);
@@ -99,7 +110,7 @@ struct Pagina_Intestata {
         {"P.IVA " + cliente.PIva, false}, {"cod. " + cliente.Codice, false}};
     float y = alto + y_destinatario;
     for (const auto& [testo, grassetto] : righe) {
-      foglio.Scrivi(sinistra + x_destinatario, y, testo, 10, grassetto, Larghezza_Tabella - x_destinatario);
+      foglio.Scrivi(sinistra + x_destinatario, y, testo, 10, grassetto, larga - x_destinatario);
       y += passo_destinatario;
     }
   }
@@ -130,10 +141,10 @@ struct Pagina_Intestata {
       x += tracciato.colonne[i].largo;
     }
     LineaOrizzontale(foglio.Penna(), static_cast<int>(sinistra), static_cast<int>(alto + y_tabella + lunga),
-                     static_cast<int>(Larghezza_Tabella), Nero, 1);
+                     static_cast<int>(larga), Nero, 1);
     const float piede = foglio.Altezza() - piede_totali - margine;
-    Riquadro(foglio.Penna(), sinistra + filo, piede, Larghezza_Tabella - filo,
-             alto + y_tabella + lunga - filo - piede, 1, Bianco, true);
+    Riquadro(foglio.Penna(), sinistra + filo, piede, larga - filo, alto + y_tabella + lunga - filo - piede, 1,
+             Bianco, true);
   }
 
   Testo Seconda_Riga(const Voce_Documento& voce) const {
@@ -144,9 +155,9 @@ struct Pagina_Intestata {
 
   float Voci(int prima, int ultima) {
     if (cornice) Cornice();
-    Riquadro(foglio.Penna(), sinistra, alto + y_tabella, Larghezza_Tabella, alto_titoli, 1, Nero, false);
+    Riquadro(foglio.Penna(), sinistra, alto + y_tabella, larga, alto_titoli, 1, Nero, false);
     Disegna_Titoli(foglio, tracciato.colonne, sinistra, alto + y_tabella + 1, 8);
-    const float largo = Larghezza_Tabella - 2 * Margine_Cella;
+    const float largo = larga - 2 * Margine_Cella;
     constexpr float sotto_la_linea = 0.4F;
     float y = alto + y_prima_voce;
     for (int i = prima; i < ultima; ++i) {
@@ -158,13 +169,13 @@ struct Pagina_Intestata {
       const bool cambia = i + 1 < ultima && documento.voci[static_cast<std::size_t>(i) + 1].Voce != voce.Voce;
       if (cambia)
         LineaOrizzontale(foglio.Penna(), static_cast<int>(sinistra), static_cast<int>(y),
-                         static_cast<int>(Larghezza_Tabella), Nero, 1);
+                         static_cast<int>(larga), Nero, 1);
     }
     return y;
   }
 
   void Totale(float& y, const Testo& titolo, double valore, float corpo, bool grassetto) {
-    constexpr float largo = Larghezza_Tabella - x_totali;
+    const float largo = larga - x_totali;
     foglio.Scrivi(sinistra + x_totali, y, titolo, corpo, grassetto);
     if (valore != 0)
       foglio.A_Destra(sinistra + x_totali, y, largo, Euro2_Migliaia(valore, separatore), corpo, grassetto);

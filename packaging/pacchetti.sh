@@ -48,6 +48,16 @@ packages_trial=(
   "debootstrap|makes the root folder that the package is tried in"
 )
 
+packages_bench=(
+  "libbenchmark-dev|times the routines"
+  "miller|totals and lists tables of text: to be measured against"
+  "gawk|likewise"
+  "sqlite3|likewise, by way of a database"
+  "groff|sets the same pages as PDF"
+  "gnumeric|opens the same day as a spreadsheet does"
+  "poppler-utils|reads the text of our PDFs for groff, and counts pages"
+)
+
 # Names of those of the given "package|reason" lines that aren't installed.
 missing_packages() {
   local line name

@@ -12,6 +12,7 @@ Finestra::Finestra(const QString& nome, QWidget* padre, Qt::WindowFlags modi)
     : QWidget(padre, modi), legame(this, [this] { mostra(); }) {
   setObjectName(nome);
   setProperty("schermata", true);
+  setProperty("ricordata", true);
 }
 
 void Finestra::mostra() { legame.mostra(); }

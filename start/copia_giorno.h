@@ -9,3 +9,7 @@
 // fails is told and leaves the target as it was.
 void CopiaGiorno(Programma& programma, const B_Inizio& inizio, bool dalla_chiavetta,
                  const Scelta_Drive& scelta_drive);
+
+// A day file dropped on the start screen comes in as from a stick, with the same questions. The day is that
+// of its name, and stands in the fields afterwards; a file of another name is refused.
+void CopiaFileGiorno(Programma& programma, B_Inizio& inizio, const Percorso& file);

@@ -7,12 +7,14 @@
 #include "core/numeri.h"
 #include "core/profili.h"
 #include "lists/liste.h"
+#include "start/giorni_recenti.h"
 #include "start/strumenti.h"
 
 namespace {
 
 constexpr Colore Grigio{128, 128, 128};
 constexpr Colore Bianco{255, 255, 255};
+constexpr std::size_t giorni_mostrati = 7;
 // Days before the ALFA3 codes belong to the previous version of the program.
 constexpr int Primo_Giorno_ALFA3 = 20200302;
 constexpr Vista Versione_Precedente = "Velmara_32.exe", Generatore = "Velmara_2020_Descri.exe";
@@ -212,6 +214,18 @@ void Riempi_File1(const Programma& programma, B_Inizio& inizio) {
   inizio.File1.Riempi(std::move(nomi));
 }
 
+const Testo& Nome_Giorno(const Data& data) {
+  static const std::array<Testo, 7> giorni = {"(Domenica)"_t, "(Lunedì)"_t,  "(Martedì)"_t, "(Mercoledì)"_t,
+                                              "(Giovedì)"_t,  "(Venerdì)"_t, "(Sabato)"_t};
+  return giorni[static_cast<std::size_t>(Giorno_Settimana(data))];
+}
+
+void Segna_Recente(B_Inizio& inizio, const std::optional<Data>& data) {
+  const auto& giorni = inizio.giorni_recenti;
+  const auto trovato = data ? std::ranges::find(giorni, *data) : giorni.end();
+  inizio.Recenti.scelta = trovato == giorni.end() ? -1 : static_cast<int>(trovato - giorni.begin());
+}
+
 }  // namespace
 
 void Carica_Inizio(Programma& programma, B_Inizio& inizio) {
@@ -231,6 +245,7 @@ void Carica_Inizio(Programma& programma, B_Inizio& inizio) {
   inizio.Text6.testo = std::to_string(programma.Ultimo_DDT);
   inizio.numeri_mostrati = Numeri(programma);
   Riempi_File1(programma, inizio);
+  Aggiorna_Recenti(programma, inizio);
   Leggi_Esclusi(programma);
 }
 
@@ -241,6 +256,7 @@ void Ritorna_Inizio(Programma& programma, B_Inizio& inizio) {
     if (adesso[i] != inizio.numeri_mostrati[i]) campi[i]->testo = std::to_string(adesso[i]);
   inizio.numeri_mostrati = adesso;
   Riempi_File1(programma, inizio);
+  Aggiorna_Recenti(programma, inizio);
 }
 
 void MostraFile1(Programma& programma, const B_Inizio& inizio) {
@@ -249,10 +265,37 @@ void MostraFile1(Programma& programma, const B_Inizio& inizio) {
 }
 
 void Cambia_Data(Programma& programma, B_Inizio& inizio) {
-  static const std::array<Testo, 7> giorni = {"(Domenica)"_t, "(Lunedì)"_t,  "(Martedì)"_t, "(Mercoledì)"_t,
-                                              "(Giovedì)"_t,  "(Venerdì)"_t, "(Sabato)"_t};
   const auto data = Leggi_Data(Data_Scelta(programma, inizio));
-  inizio.Label13.testo = data ? giorni[static_cast<std::size_t>(Giorno_Settimana(*data))] : "(errore)";
+  inizio.Label13.testo = data ? Nome_Giorno(*data) : "(errore)";
+  Segna_Recente(inizio, data);
+}
+
+void Metti_Giorno(Programma& programma, B_Inizio& inizio, const Data& giorno) {
+  inizio.Text1.testo = Due_Cifre(giorno.giorno);
+  inizio.Combo1.scelta = giorno.mese - 1;
+  inizio.Text3.testo = std::to_string(giorno.anno);
+  Cambia_Data(programma, inizio);
+}
+
+void Aggiorna_Recenti(Programma& programma, B_Inizio& inizio) {
+  inizio.giorni_recenti = Giorni_Recenti(programma, giorni_mostrati);
+  std::vector<Testo> righe;
+  for (const Data& giorno : inizio.giorni_recenti)
+    righe.push_back(Testo_Data(giorno, "dd/mm/yyyy") + "  " + Nome_Giorno(giorno));
+  inizio.Recenti.Riempi(std::move(righe));
+  Cambia_Data(programma, inizio);
+}
+
+void Scelto_Recente(Programma& programma, B_Inizio& inizio) {
+  if (inizio.Recenti.scelta < 0) return;
+  Metti_Giorno(programma, inizio, inizio.giorni_recenti[static_cast<std::size_t>(inizio.Recenti.scelta)]);
+}
+
+bool Vai_Ai_Recenti(Programma& programma, B_Inizio& inizio) {
+  if (inizio.giorni_recenti.empty()) return false;
+  if (inizio.Recenti.scelta < 0) inizio.Recenti.scelta = 0;
+  Scelto_Recente(programma, inizio);
+  return true;
 }
 
 void Giorno_Su(Programma& programma, B_Inizio& inizio) {

@@ -9,7 +9,7 @@
 // The list generator of the firm whose folder it stands in.
 int main(int argomenti, char** valori) {
   const QApplication applicazione(argomenti, valori);
-  Prepara_Caratteri();
+  Prepara_Aspetto();
   const Percorso ditta = QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString();
   Stampante_Qt stampante(ditta);
   Piattaforma_Qt piattaforma(stampante);

@@ -33,12 +33,6 @@ QCheckBox* Fa_Casella(const Spunta& stato) {
   return casella;
 }
 
-QGroupBox* Riquadro_Titolato(const QString& titolo) {
-  auto* riquadro = new QGroupBox(titolo);
-  riquadro->setFont(Carattere(punti_normali, true));
-  return riquadro;
-}
-
 }  // namespace
 
 ZvenditaFinestra::ZvenditaFinestra(Programma& programma, QWidget* padre)

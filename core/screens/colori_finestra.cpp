@@ -23,12 +23,6 @@ void Dipingi(QLabel* scritta, const Campione& campione) {
   if (tavolozza != scritta->palette()) scritta->setPalette(tavolozza);
 }
 
-QGroupBox* Riquadro_Titolato(const QString& titolo) {
-  auto* riquadro = new QGroupBox(titolo);
-  riquadro->setFont(Carattere(punti_normali, true));
-  return riquadro;
-}
-
 }  // namespace
 
 ColoriFinestra::ColoriFinestra(Programma& programma, QWidget* padre)

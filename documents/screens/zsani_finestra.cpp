@@ -20,16 +20,6 @@
 #include "platform/testo_qt.h"
 #include "printing/screens/stampante_finestra.h"
 
-namespace {
-
-QGroupBox* Riquadro_Titolato(const QString& titolo) {
-  auto* riquadro = new QGroupBox(titolo);
-  riquadro->setFont(Carattere(punti_normali, true));
-  return riquadro;
-}
-
-}  // namespace
-
 ZsaniFinestra::ZsaniFinestra(Programma& programma, const std::function<void(Zsani&)>& apri, QWidget* padre)
     : Finestra(QStringLiteral("Zsani"), padre, Qt::Window), programma_(programma) {
   zsani_.stampa = [this](const Documento_Cliente& documento, const Avanzamento& avanzamento) {

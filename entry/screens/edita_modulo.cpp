@@ -62,11 +62,11 @@ constexpr Cella celle[] = {
     {Controllato, 4, 22, 2, Misura::Piccola},
     {NomeLatino, 5, 0, 4, Misura::Piccola},
     {Famiglia, 5, 4, 3, Misura::Piccola},
-    {NomeComune, 5, 7, 4, Misura::Piccola},
-    {CodNumVeritas, 5, 11, 3, Misura::Piccola},
-    {Alfa, 5, 14, 2, Misura::Piccola},
-    {DDT, 5, 16, 4, Misura::Piccola},
-    {FAT, 5, 20, 4, Misura::Piccola},
+    {NomeComune, 5, 7, 5, Misura::Piccola},
+    {CodNumVeritas, 5, 12, 4, Misura::Piccola},
+    {Alfa, 5, 16, 2, Misura::Piccola},
+    {DDT, 5, 18, 3, Misura::Piccola},
+    {FAT, 5, 21, 3, Misura::Piccola},
 };
 
 // Letters as multiples of the entry screen's text size.

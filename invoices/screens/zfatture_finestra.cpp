@@ -29,12 +29,6 @@ namespace {
 constexpr int caratteri_lista = 72;  // of a line of the lists
 constexpr int caratteri_spese = 8;
 
-QGroupBox* Riquadro_Titolato(const QString& titolo) {
-  auto* riquadro = new QGroupBox(titolo);
-  riquadro->setFont(Carattere(punti_normali, true));
-  return riquadro;
-}
-
 }  // namespace
 
 ZFattureFinestra::ZFattureFinestra(Programma& programma, ZFatture zfatture, QWidget* padre)

@@ -31,8 +31,8 @@ ListaVoci::ListaVoci(double punti, QWidget* padre) : QListView(padre) {
 
 void ListaVoci::incornicia(bool in_uso) {
   QPalette tavolozza = palette();
-  tavolozza.setColor(QPalette::WindowText,
-                     tavolozza.color(in_uso ? QPalette::Highlight : QPalette::Midlight));
+  tavolozza.setColor(QPalette::WindowText, in_uso ? tavolozza.color(QPalette::Highlight)
+                                                  : Colore_Contorno(QApplication::palette(this)));
   setPalette(tavolozza);
 }
 

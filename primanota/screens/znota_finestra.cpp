@@ -19,16 +19,6 @@
 #include "transfers/screens/senza_proposta.h"
 #include "transfers/screens/xdisk_finestra.h"
 
-namespace {
-
-QGroupBox* Riquadro_Titolato(const QString& titolo) {
-  auto* riquadro = new QGroupBox(titolo);
-  riquadro->setFont(Carattere(punti_normali, true));
-  return riquadro;
-}
-
-}  // namespace
-
 ZnotaFinestra::ZnotaFinestra(Programma& programma, QWidget* padre)
     : Finestra(QStringLiteral("Znota"), padre, Qt::Window), programma_(programma) {
   znota_.scegli_drive = Chiedi_Drive(programma_, this);

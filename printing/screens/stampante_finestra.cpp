@@ -63,7 +63,7 @@ StampanteFinestra::StampanteFinestra(Programma& programma, QWidget* padre)
 }
 
 QGroupBox* StampanteFinestra::fa_orientamento() {
-  auto* riquadro = new QGroupBox(QStringLiteral("Foglio"));
+  auto* riquadro = Riquadro_Titolato(QStringLiteral("Foglio"));
   auto* colonna = new QVBoxLayout(riquadro);
   struct Voce {
     const char* nome;
@@ -73,6 +73,7 @@ QGroupBox* StampanteFinestra::fa_orientamento() {
   const Voce voci[] = {{"Verticale", schermo_.Verticale, false}, {"Orizzontale", schermo_.Orizzontale, true}};
   for (const auto& [nome, stato, orizzontale] : voci) {
     auto* scelta = new QRadioButton;
+    scelta->setFont(font());
     const Spunta* segno = &stato;
     legame.lega(scelta, QString::fromUtf8(nome), stato, [this, segno, sdraiato = orizzontale] {
       if (segno->segnata) Scegli_Orientamento(schermo_, sdraiato);

@@ -5,6 +5,7 @@
 
 #include "entry/screens/albero_finestra.h"
 #include "entry/screens/edita_finestra.h"
+#include "platform/memoria_finestre.h"
 #include "start/avvio.h"
 #include "start/screens/b_inizio.h"
 #include "start/screens/cornice.h"
@@ -13,6 +14,11 @@
 
 struct Applicazione::Interno {
   Interno(Piattaforma& piattaforma, Percorso dove) : programma(piattaforma), cartella(std::move(dove)) {}
+  ~Interno() {
+    if (cornice) cornice->hide();  // its place is remembered
+  }
+  Interno(const Interno&) = delete;
+  Interno& operator=(const Interno&) = delete;
 
   void fa_finestre();
   void apri_giorno();
@@ -23,6 +29,8 @@ struct Applicazione::Interno {
   Percorso cartella;
   Blocco_Cartella blocco;
   Edita edita;
+  std::optional<Posti_Finestre> posti;
+  std::optional<Memoria_Finestre> memoria;
   std::unique_ptr<Cornice> cornice;
   B_InizioFinestra* inizio = nullptr;
   EditaFinestra* edita_finestra = nullptr;
@@ -93,6 +101,7 @@ bool Applicazione::Avvia() {
   const EsitoAvvio esito = ::Avvia(io.programma, io.cartella, io.blocco, chiedi);
   piattaforma.Occupato(false);
   if (esito == EsitoAvvio::Fine) return false;
+  io.memoria.emplace(io.posti.emplace(io.programma.disco, io.programma.Cartella_Dati));
   io.fa_finestre();
   io.cornice->vai(io.inizio);
   io.cornice->showMaximized();

@@ -2,12 +2,15 @@
 
 #include <QBoxLayout>
 #include <QComboBox>
+#include <QDropEvent>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
+#include <QMimeData>
 #include <QPushButton>
+#include <QUrl>
 
 #include "platform/aspetto.h"
 #include "platform/tasti_qt.h"
@@ -29,6 +32,7 @@ CasellaTesto* Campo_Numero(int cifre, double punti) {
   auto* campo = new CasellaTesto;
   campo->setFont(Carattere(punti, true));
   campo->setAlignment(Qt::AlignCenter);
+  campo->setAcceptDrops(false);  // a day file dropped on it is the screen's
   campo->setFixedWidth(campo->fontMetrics().horizontalAdvance(QString(cifre + 2, u'0')));
   return campo;
 }
@@ -50,7 +54,7 @@ B_InizioFinestra::B_InizioFinestra(Programma& programma, QWidget* padre)
   colonna->addWidget(fa_data());
   colonna->addWidget(fa_comandi());
   colonna->addWidget(fa_numeri());
-  colonna->addStretch();
+  colonna->addWidget(fa_recenti(), 1);
   colonna->addWidget(fa_strumenti());
 
   auto* destra = new QVBoxLayout;
@@ -63,6 +67,7 @@ B_InizioFinestra::B_InizioFinestra(Programma& programma, QWidget* padre)
   tutto->addLayout(colonna);
   tutto->addLayout(destra, 1);
 
+  setAcceptDrops(true);
   copia_->installEventFilter(this);
   auto* file1 = new QListView(this);
   legame.lega(file1, QStringLiteral("File1"), inizio_.File1);
@@ -79,7 +84,7 @@ QLabel* B_InizioFinestra::scritta(const QString& nome, Scritta& stato) {
 }
 
 QWidget* B_InizioFinestra::fa_data() {
-  auto* riquadro = new QGroupBox(QStringLiteral("Giorno di lavoro"));
+  auto* riquadro = Riquadro_Titolato(QStringLiteral("Giorno di lavoro"));
   auto* riga = new QHBoxLayout(riquadro);
   const auto cambia = [this] { Cambia_Data(programma_, inizio_); };
 
@@ -135,7 +140,7 @@ QWidget* B_InizioFinestra::fa_numeri() {
                                      {"Nota di Accredito", "Text4", inizio_.Text4},
                                      {"Fattura", "Text5", inizio_.Text5},
                                      {"DDT", "Text6", inizio_.Text6}}};
-  auto* riquadro = new QGroupBox(QStringLiteral("Ultimi numeri emessi"));
+  auto* riquadro = Riquadro_Titolato(QStringLiteral("Ultimi numeri emessi"));
   auto* griglia = new QGridLayout(riquadro);
   griglia->setHorizontalSpacing(16);
   int colonna = 0;
@@ -145,11 +150,31 @@ QWidget* B_InizioFinestra::fa_numeri() {
     campo->setAccessibleName(titolo);
     legame.lega(campo, QString::fromLatin1(voce.nome), voce.stato);
     auto* etichetta = new QLabel(titolo);
+    etichetta->setFont(Carattere(punti_normali));
     etichetta->setBuddy(campo);
     griglia->addWidget(etichetta, 0, colonna);
     griglia->addWidget(campo, 1, colonna++);
   }
   griglia->setColumnStretch(colonna, 1);
+  return riquadro;
+}
+
+// Chosen with the arrows, opened with Enter as any day.
+QWidget* B_InizioFinestra::fa_recenti() {
+  auto* riquadro = Riquadro_Titolato(QStringLiteral("Ultimi giorni   F8"));
+  auto* colonna = new QVBoxLayout(riquadro);
+  recenti_ = new QListView;
+  QFont carattere = Carattere_Fisso(punti_normali);
+  carattere.setBold(false);  // not the title's
+  recenti_->setFont(carattere);
+  recenti_->setAccessibleName(QStringLiteral("Ultimi giorni"));
+  recenti_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  recenti_->setUniformItemSizes(true);
+  recenti_->setMinimumHeight(recenti_->fontMetrics().height() * 3);
+  legame.lega(recenti_, QStringLiteral("Recenti"), inizio_.Recenti,
+              [this] { Scelto_Recente(programma_, inizio_); });
+  connect(recenti_, &QListView::doubleClicked, this, [this] { legame.esegui([this] { continua(); }); });
+  colonna->addWidget(recenti_);
   return riquadro;
 }
 
@@ -191,12 +216,13 @@ QWidget* B_InizioFinestra::fa_strumenti() {
                                   {"Command16", inizio_.Command16, strumento("Command16")},
                                   {"Command5", inizio_.Command5, {}}};
   constexpr int per_riga = 5;
-  auto* riquadro = new QGroupBox(QStringLiteral("Strumenti"));
+  auto* riquadro = Riquadro_Titolato(QStringLiteral("Strumenti"));
   auto* griglia = new QGridLayout(riquadro);
   int posto = 0;
   for (const Voce& voce : voci) {
     auto* bottone = new QPushButton;
     legame.lega(bottone, QString::fromLatin1(voce.nome), voce.stato, voce.evento);
+    bottone->setFont(Carattere(punti_normali));
     bottone->setMinimumHeight(bottone->fontMetrics().height() * 2);
     if (&voce.stato == &inizio_.Command7) copia_ = bottone;
     if (!voce.stato.visibile) {
@@ -204,6 +230,7 @@ QWidget* B_InizioFinestra::fa_strumenti() {
       continue;
     }
     griglia->addWidget(bottone, posto / per_riga, posto % per_riga);
+    griglia->setColumnStretch(posto % per_riga, 1);
     ++posto;
   }
   return riquadro;
@@ -219,6 +246,28 @@ bool B_InizioFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
 
 void B_InizioFinestra::copia(bool dalla_chiavetta) {
   CopiaGiorno(programma_, inizio_, dalla_chiavetta, Chiedi_Drive(programma_, this));
+  Aggiorna_Recenti(programma_, inizio_);
+}
+
+void B_InizioFinestra::dragEnterEvent(QDragEnterEvent* evento) {
+  if (!occupata() && inizio_.attiva && evento->mimeData()->hasUrls()) evento->acceptProposedAction();
+}
+
+// The questions come when the desktop has its mouse back.
+void B_InizioFinestra::dropEvent(QDropEvent* evento) {
+  evento->setDropAction(Qt::CopyAction);
+  evento->accept();
+  QMetaObject::invokeMethod(
+      this, [this, file = evento->mimeData()->urls()] { copia_file(file); }, Qt::QueuedConnection);
+}
+
+void B_InizioFinestra::copia_file(const QList<QUrl>& file) {
+  if (occupata() || !inizio_.attiva || !isVisible()) return;
+  window()->activateWindow();
+  legame.esegui([&] {
+    for (const QUrl& uno : file)
+      if (uno.isLocalFile()) CopiaFileGiorno(programma_, inizio_, Percorso(uno.toLocalFile().toStdString()));
+  });
 }
 
 QWidget* B_InizioFinestra::fa_ditta() {
@@ -259,14 +308,17 @@ void B_InizioFinestra::continua() {
 
 void B_InizioFinestra::keyPressEvent(QKeyEvent* evento) {
   const Pressione pressione = Da_QKeyEvent(*evento);
-  bool usata = true;
+  bool usata = true, vai_ai_recenti = false;
   legame.esegui([&] {
     if (pressione.tasto == Tasto::Invio && pressione.Nudo())
       continua();
     else if (pressione.tasto == Tasto::Esc && pressione.Nudo())
       Abbandona(programma_);
+    else if (pressione.tasto == Tasto::F8 && pressione.Nudo())
+      vai_ai_recenti = Vai_Ai_Recenti(programma_, inizio_);
     else
       usata = TastoInizio(programma_, inizio_, pressione);
   });
+  if (vai_ai_recenti) recenti_->setFocus(Qt::OtherFocusReason);
   if (!usata) Finestra::keyPressEvent(evento);
 }

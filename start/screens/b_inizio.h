@@ -6,6 +6,7 @@
 
 class CasellaTesto;
 class QLabel;
+class QListView;
 class Quadro;
 
 // The window of the start screen.
@@ -24,20 +25,25 @@ class B_InizioFinestra : public Finestra {
  protected:
   void keyPressEvent(QKeyEvent* evento) override;
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
+  void dragEnterEvent(QDragEnterEvent* evento) override;
+  void dropEvent(QDropEvent* evento) override;
 
  private:
   QWidget* fa_data();
   QWidget* fa_numeri();
   QWidget* fa_comandi();
+  QWidget* fa_recenti();
   QWidget* fa_strumenti();
   QWidget* fa_ditta();
   QLabel* scritta(const QString& nome, Scritta& stato);
   void continua();
   void copia(bool dalla_chiavetta);
+  void copia_file(const QList<QUrl>& file);
 
   Programma& programma_;
   B_Inizio inizio_;
   Quadro* quadro_;
   CasellaTesto* giorno_ = nullptr;
+  QListView* recenti_ = nullptr;
   QWidget* copia_ = nullptr;  // Command7
 };

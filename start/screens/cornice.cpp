@@ -15,6 +15,7 @@ constexpr double parte_di_lavoro = 0.93;
 Cornice::Cornice() : pagine_(new QStackedWidget) {
   setObjectName(QStringLiteral("Albero2"));
   setWindowTitle(QStringLiteral("Prima Nota"));
+  setProperty("ricordata", true);
   setCentralWidget(pagine_);
   // The small window is smaller than what its pages ask for.
   layout()->setSizeConstraint(QLayout::SetNoConstraint);
@@ -55,6 +56,7 @@ void Cornice::riduci() {
     setGeometry(misura_.isValid() ? misura_ : QRect(schermo.topLeft(), di_lavoro));
     if (massima_) setWindowState(Qt::WindowMaximized);
   }
+  setProperty("ricordata", grande());  // the small window is for a moment
   activateWindow();
 }
 

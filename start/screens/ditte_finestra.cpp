@@ -50,6 +50,8 @@ DitteFinestra::DitteFinestra(Percorso programmi, Percorso radice)
   auto* chiudi = Fa_Bottone(QStringLiteral("Chiudi"), QStringLiteral("&Chiudi"), this);
   apri_->setDefault(true);
 
+  setTabOrder(nuova_ditta, apri_);
+  setTabOrder(apri_, chiudi);
   auto* bottoni = new QHBoxLayout;
   bottoni->addWidget(nuova_ditta);
   bottoni->addStretch();

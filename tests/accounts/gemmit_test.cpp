@@ -226,7 +226,7 @@ TEST_F(Schermo_Manuale, Anteprima) {
   Premi(Tasto::Esc);
   EXPECT_FALSE(zgemmit.Anteprima.visibile);
   EXPECT_FALSE(zgemmit.chiusa);
-  EXPECT_EQ(zgemmit.titolo, "Conti Vendita del 14/03/2025 Ultimo ncv=3 (Manuale)");
+  EXPECT_EQ(zgemmit.titolo, "Conti Vendita del 14/03/2025 Ultimo ncv=5 (Manuale)");
   EXPECT_EQ(zgemmit.fuoco, Zgemmit::fuoco_Lista);
   Premi(Tasto::Esc);
   EXPECT_TRUE(zgemmit.chiusa);
@@ -234,7 +234,7 @@ TEST_F(Schermo_Manuale, Anteprima) {
 
 // F2 after it prints the account in view: the preview of another one doesn't stay in front of the list.
 TEST_F(Schermo_Manuale, UnAltroContoToglieLAnteprima) {
-  Apri(Vendite_Di_Esempio());
+  ApriDueConti();
   Premi(Tasto::F6);
   Premi(Tasto::F9);
   EXPECT_FALSE(zgemmit.Anteprima.visibile);

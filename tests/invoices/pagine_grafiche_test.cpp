@@ -70,6 +70,18 @@ TEST_F(Pagine_Grafiche, OgniTracciatoAlSuoPosto) {
   }
 }
 
+// A margin that the printer needs must not push the amounts off the paper: the description gives way.
+TEST_F(Pagine_Grafiche, ColMargineLargoGliImportiRestanoSulFoglio) {
+  programma.preferenze.BORDO3 = 20;
+  Stampa(Fattura(1), Tracciato_Fattura::Grafica1);
+  const Testo fattura = Registrato();
+  EXPECT_THAT(fattura, HasSubstr("p1 riquadro 21.00 85.00 210.00 91.00"));
+  EXPECT_THAT(fattura, HasSubstr("p1 testo 22.00 86.00 Arial 8 grassetto: Descrizione"));
+  programma.preferenze.BORDO3 = 9;
+  Stampa(Fattura(1), Tracciato_Fattura::Grafica1);
+  EXPECT_THAT(Registrato(), HasSubstr("p1 riquadro 10.00 85.00 210.00 91.00"));
+}
+
 TEST_F(Pagine_Grafiche, LaTestataScalataDiDolvena) {
   programma.Ragione[0] = "DOLVENA Pesca";
   Stampa(Fattura(1), Tracciato_Fattura::Grafica1);

@@ -9,6 +9,7 @@
 
 #include <QApplication>
 
+#include "platform/aspetto.h"
 #include "tests/runner/giornata.h"
 #include "tests/runner/passi.h"
 
@@ -48,6 +49,7 @@ int Figlio(Copione copione, const Percorso& file, const Percorso& radice, Segnal
   setenv("XDG_RUNTIME_DIR", radice.c_str(), 0);  // the toolkit makes one elsewhere, which would stay
   QApplication applicazione(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
+  Prepara_Aspetto();
   Giornata giornata(
       std::move(copione), file, radice, [&](int riga) { segnalibro.riga() = riga; }, album);
   return giornata.Gioca();

@@ -144,4 +144,61 @@ TEST_F(Copia_Del_Giorno, Un_anno_scritto_male_non_esce_dalla_cartella) {
                                              "\nnon è stato trovato"_t));
 }
 
+// A day file dropped on the start screen.
+
+TEST_F(Copia_Del_Giorno, Un_file_trascinato_entra_con_le_stesse_domande) {
+  const Percorso file = chiavetta / "20250312.txt";
+  const Percorso qui_12 = cartella / "2025" / "20250312.txt";
+  Metti(file, "nuove");
+  macchina.risposte = {true};
+  CopiaFileGiorno(programma, inizio, file);
+  EXPECT_THAT(macchina.domande,
+              ElementsAre("OK per copiare i dati del giorno 12/03/2025\ndalla chiavetta...(importazione)"));
+  EXPECT_THAT(macchina.messaggi, ElementsAre("il file\n" + Testo_Percorso(file) +
+                                             "\nè stato copiato in \n"_t + Testo_Percorso(qui_12)));
+  EXPECT_EQ(Letto(qui_12), "nuove");
+  EXPECT_EQ(inizio.Text1.testo, "12");
+  EXPECT_THAT(inizio.giorni_recenti, ElementsAre(Data{2025, 3, 12}));
+}
+
+TEST_F(Copia_Del_Giorno, Un_file_trascinato_su_un_giorno_che_c_e_chiede_di_sovrascrivere) {
+  Metti(qui, "vecchie");
+  Metti(chiavetta / "20250314.txt", "nuove");
+  macchina.risposte = {true, false};
+  CopiaFileGiorno(programma, inizio, chiavetta / "20250314.txt");
+  EXPECT_THAT(macchina.domande,
+              ElementsAre("OK per copiare i dati del giorno 14/03/2025\ndalla chiavetta...(importazione)",
+                          "il file:\n" + Testo_Percorso(qui) + "\nesiste...ok per sovrascrivere"));
+  EXPECT_EQ(Letto(qui), "vecchie");
+  macchina.risposte = {false};
+  CopiaFileGiorno(programma, inizio, chiavetta / "20250314.txt");
+  EXPECT_EQ(Letto(qui), "vecchie");
+  EXPECT_THAT(macchina.messaggi, IsEmpty());
+}
+
+TEST_F(Copia_Del_Giorno, Un_file_trascinato_che_non_e_una_giornata_viene_rifiutato) {
+  Metti(base / "lettera.txt", "caro");
+  CopiaFileGiorno(programma, inizio, base / "lettera.txt");
+  EXPECT_THAT(macchina.messaggi, ElementsAre(HasSubstr("non ha il nome di una giornata")));
+  EXPECT_THAT(macchina.domande, IsEmpty());
+}
+
+TEST_F(Copia_Del_Giorno, Un_file_della_ditta_stessa_porta_solo_al_suo_giorno) {
+  Metti(cartella / "2025" / "20250312.txt", "righe");
+  CopiaFileGiorno(programma, inizio, cartella / "2025" / "20250312.txt");
+  EXPECT_THAT(macchina.domande, IsEmpty());
+  EXPECT_THAT(macchina.messaggi, IsEmpty());
+  EXPECT_EQ(inizio.Text1.testo, "12");
+}
+
+TEST_F(Copia_Del_Giorno, Un_file_trascinato_su_un_disco_pieno_lascia_il_vecchio) {
+  Metti(qui, "vecchie");
+  Metti(chiavetta / "20250314.txt", "nuove");
+  programma.disco.guasto = [](const Percorso&) { return ENOSPC; };
+  macchina.risposte = {true, true};
+  CopiaFileGiorno(programma, inizio, chiavetta / "20250314.txt");
+  EXPECT_THAT(macchina.messaggi, ElementsAre(HasSubstr("il disco è pieno"_t)));
+  EXPECT_EQ(Letto(qui), "vecchie");
+}
+
 }  // namespace

@@ -1,0 +1,46 @@
+#include "start/giorni_recenti.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::size_t cifre_anno = 4, cifre_giorno = 8;
+
+bool Cifre(Vista testo, std::size_t quante) {
+  return testo.size() == quante && testo.find_first_not_of("0123456789") == Vista::npos;
+}
+
+std::optional<Data> Giorno_Del_File(Vista nome) {
+  const Vista cifre = Sinistra(nome, cifre_giorno);
+  return Cifre(cifre, cifre_giorno) ? Leggi_Data(Data_Da_AAAAMMGG(cifre)) : std::nullopt;
+}
+
+}  // namespace
+
+std::optional<Data> Giorno_Nel_Nome(Vista nome) {
+  if (!Uguali(Da(nome, cifre_giorno + 1), ".txt")) return std::nullopt;
+  return Giorno_Del_File(nome);
+}
+
+std::vector<Data> Giorni_Recenti(const Programma& programma, std::size_t quanti) {
+  std::vector<Percorso> anni = programma.disco.Elenca_Cartelle(programma.Cartella_Dati);
+  std::erase_if(anni, [](const Percorso& anno) { return !Cifre(Testo_Percorso(anno), cifre_anno); });
+  std::ranges::reverse(anni);
+  const Data oggi = programma.piattaforma.Oggi();
+  std::vector<Data> giorni;
+  for (const Percorso& anno : anni) {
+    const Percorso cartella = Unisci_Percorso(programma.Cartella_Dati, Testo_Percorso(anno));
+    for (const char* modello : {"????????.txt", "????????.dat"})
+      for (const Percorso& nome : programma.disco.Elenca(cartella, modello)) {
+        const auto giorno = Giorno_Del_File(Testo_Percorso(nome));
+        if (giorno && std::to_string(giorno->anno) == Testo_Percorso(anno) && *giorno <= oggi)
+          giorni.push_back(*giorno);
+      }
+    std::ranges::sort(giorni, std::greater());
+    const auto doppi = std::ranges::unique(giorni);
+    giorni.erase(doppi.begin(), doppi.end());
+    if (giorni.size() >= quanti) break;
+  }
+  giorni.resize(std::min(giorni.size(), quanti));
+  return giorni;
+}
