@@ -193,9 +193,9 @@ void Iscrivi_Tutte(const Ditta& ditta) {
       {"ultimi_numeri", {}, [](Giornata& giornata) {
          Trova_Ultimi_Numeri(giornata.programma, giornata.programma.Anno_Lavoro);
        }}};
-  for (const auto& [nome, prepara, opera] : operazioni)
-    Iscrivi(nome,
-            [&ditta, prepara, opera](benchmark::State& stato) { Sul_Giorno(stato, ditta, prepara, opera); })
+  for (const Sul_Giorno_Intero& una : operazioni)
+    Iscrivi(una.nome,
+            [&ditta, una](benchmark::State& stato) { Sul_Giorno(stato, ditta, una.prepara, una.opera); })
         ->Arg(righe_poche)
         ->Arg(righe_molte)
         ->Arg(righe_massime);
