@@ -37,8 +37,7 @@ std::vector<Data> Giorni_Recenti(const Programma& programma, std::size_t quanti)
           giorni.push_back(*giorno);
       }
     std::ranges::sort(giorni, std::greater());
-    const auto doppi = std::ranges::unique(giorni);
-    giorni.erase(doppi.begin(), doppi.end());
+    giorni.erase(std::unique(giorni.begin(), giorni.end()), giorni.end());
     if (giorni.size() >= quanti) break;
   }
   giorni.resize(std::min(giorni.size(), quanti));

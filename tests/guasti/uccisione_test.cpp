@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <iostream>
+#include <poll.h>
 #include <random>
 #include <sys/wait.h>
 #include <thread>
@@ -57,6 +58,7 @@ void Salva_Sul_Posto(Programma&, const Percorso& file, const Testo& contenuto) {
   for (std::size_t i = 0; i < contenuto.size(); i += pezzo) {
     const auto parte = std::min(pezzo, contenuto.size() - i);
     if (write(aperto, contenuto.data() + i, parte) != static_cast<ssize_t>(parte)) break;
+    std::this_thread::sleep_for(std::chrono::microseconds(100));  // as a slow disk does
   }
   close(aperto);
 }
@@ -165,6 +167,13 @@ unsigned Dall_Ambiente(const char* nome, unsigned altrimenti) {
   return valore == nullptr ? altrimenti : static_cast<unsigned>(std::strtoul(valore, nullptr, 10));
 }
 
+// Waits until the child has saved once: how long it takes to get there depends on the machine.
+void Aspetta_Il_Primo(int rapporti) {
+  constexpr int limite = 10'000;  // milliseconds
+  pollfd attesa{rapporti, POLLIN, 0};
+  poll(&attesa, 1, limite);
+}
+
 // Kills so many times at random moments; the first fault found, and after how many kills.
 std::pair<std::string, unsigned> Uccidi_Spesso(unsigned volte, unsigned seme, const Salva_File& a_modo_suo) {
   Scena scena;
@@ -175,6 +184,7 @@ std::pair<std::string, unsigned> Uccidi_Spesso(unsigned volte, unsigned seme, co
     const int prossima =
         std::max({salvate.giorno, salvate.clienti, salvate.numeri, salvate.impostazioni}) + 1;
     const Figlio figlio = Salva_Finche_Muore(scena.cartella.percorso, prossima, a_modo_suo);
+    if (sorte() % 4 != 0) Aspetta_Il_Primo(figlio.rapporti);
     std::this_thread::sleep_for(std::chrono::microseconds(500 + sorte() % 12000));
     kill(figlio.processo, SIGKILL);
     waitpid(figlio.processo, nullptr, 0);
