@@ -85,7 +85,7 @@ void Codificata(Programma& programma, const Ditta_Muta& ditta, const Lista_Codif
                                              Leggi_Stati,       Leggi_Lavorazioni, Leggi_Presentazioni,
                                              Leggi_Barche,      Leggi_Allergeni};
   for (const auto leggi : lettori) leggi(programma);
-  Esigi((programma.*lista.tabella).size() == Righe(contenuto).size(), "una voce per riga");
+  Esigi((programma.*lista.tabella).size() == Righe(Senza_Marca(contenuto)).size(), "una voce per riga");
   Esigi(ditta.Contenuto(Testo(lista.nome).c_str()) == contenuto, "leggere non tocca il file");
 }
 
