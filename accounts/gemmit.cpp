@@ -5,6 +5,7 @@
 
 #include "accounts/file_conto.h"
 #include "accounts/numerazione.h"
+#include "core/impegno.h"
 #include "core/numeri.h"
 #include "lists/ordina.h"
 #include "printing/pagina.h"
@@ -18,27 +19,11 @@ constexpr Vista aiuto[] = {"Questa procedura richiede che il numero di conto ven
                            " Manualmente.   ", " E' possibile stampare ",
                            "tutti i conti vendita con un unico comando ", "(prima F4 e poi F2)."};
 
-// A command runs or asks: keys and clicks that come meanwhile do nothing.
-class Fermo {
- public:
-  Fermo(const Programma& programma, Zgemmit& zgemmit)
-      : programma_(programma), zgemmit_(zgemmit), era_attiva_(std::exchange(zgemmit.attiva, false)) {
-    AggiornaComandi(programma_, zgemmit_);
-    programma_.piattaforma.Occupato(true);
-  }
-  ~Fermo() {
-    programma_.piattaforma.Occupato(false);
-    zgemmit_.attiva = era_attiva_;
-    AggiornaComandi(programma_, zgemmit_);
-  }
-  Fermo(const Fermo&) = delete;
-  Fermo& operator=(const Fermo&) = delete;
-
- private:
-  const Programma& programma_;
-  Zgemmit& zgemmit_;
-  bool era_attiva_;
-};
+// A command runs or asks.
+auto Ferma(const Programma& programma, Zgemmit& zgemmit) {
+  return Schermo_Occupato(zgemmit, programma.piattaforma,
+                          [&programma, &zgemmit] { AggiornaComandi(programma, zgemmit); });
+}
 
 Testo& Colonna(Conto_CV& conto, std::size_t campo) {
   Testo* const colonne[] = {&conto.NCV,    &conto.Data,   &conto.Fornitore,
@@ -368,7 +353,7 @@ void ScegliFornitore(Zgemmit& zgemmit, const Testo& nome) {
 
 void MostraAnteprima(Programma& programma, Zgemmit& zgemmit) {
   if (!zgemmit.attiva || zgemmit.Anteprima.visibile) return;
-  const Fermo fermo(programma, zgemmit);
+  const auto fermo = Ferma(programma, zgemmit);
   if (zgemmit.Tabella_CV.empty()) return programma.piattaforma.Messaggio("nulla da fare...");
   if (!Uno_Scelto(zgemmit)) {
     Scegli_Il_Primo(programma, zgemmit);
@@ -386,7 +371,7 @@ void MostraAnteprima(Programma& programma, Zgemmit& zgemmit) {
 
 void StampaCV(Programma& programma, Zgemmit& zgemmit) {
   if (!zgemmit.attiva) return;
-  const Fermo fermo(programma, zgemmit);
+  const auto fermo = Ferma(programma, zgemmit);
   zgemmit.file_falliti.clear();
   Esito esito = Esito::Fatta;
   if (zgemmit.Check1.segnata)
@@ -403,13 +388,13 @@ void StampaCV(Programma& programma, Zgemmit& zgemmit) {
 
 void ModificaDati(Programma& programma, Zgemmit& zgemmit) {
   if (!zgemmit.attiva || zgemmit.Anteprima.visibile) return;
-  const Fermo fermo(programma, zgemmit);
+  const auto fermo = Ferma(programma, zgemmit);
   if (Scegli_Il_Primo(programma, zgemmit)) Modifica(programma, zgemmit);
 }
 
 void MostraAiutoConti(Programma& programma, Zgemmit& zgemmit) {
   if (!zgemmit.attiva) return;
-  const Fermo fermo(programma, zgemmit);
+  const auto fermo = Ferma(programma, zgemmit);
   Testo testo;
   for (const Vista riga : aiuto) testo.append(testo.empty() ? "" : "\n").append(riga);
   programma.piattaforma.Messaggio(testo, Icona::Informazione);

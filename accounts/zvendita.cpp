@@ -118,7 +118,7 @@ bool StampantePerConti(Programma& programma) {
 }
 
 void ApriConti(Programma& programma, Zvendita& zvendita) {
-  const Conti_Occupati occupato(programma.piattaforma);
+  const Clessidra clessidra(programma.piattaforma);
   zvendita.chiusa = false;
   zvendita.attiva = true;
   Prepara_Controlli(programma, zvendita);
@@ -240,7 +240,7 @@ void CambiaAltreOpzioni(Zvendita& zvendita) {
 
 void MostraAiutoConti(Programma& programma, Zvendita& zvendita) {
   if (!zvendita.attiva) return;
-  const Conti_Fermi fermo(zvendita);
+  const auto fermo = Ferma(zvendita);
   Testo testo;
   for (const Vista riga : aiuto) testo.append(testo.empty() ? "" : "\n").append(riga);
   programma.piattaforma.Messaggio(testo, Icona::Informazione);
@@ -248,7 +248,7 @@ void MostraAiutoConti(Programma& programma, Zvendita& zvendita) {
 
 void ChiudiConti(Programma& programma, Zvendita& zvendita) {
   if (!zvendita.attiva) return;
-  const Conti_Fermi fermo(zvendita);
+  const auto fermo = Ferma(zvendita);
   Preferenze& preferenze = programma.preferenze;
   preferenze.FlagC1 = zvendita.Check1.segnata;
   preferenze.FlagC2 = zvendita.Check2.segnata;

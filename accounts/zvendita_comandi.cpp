@@ -104,7 +104,7 @@ Esito_Modifica EseguiModifica(Programma& programma, Zvendita& zvendita) {
   if (!CampiCambiati(zvendita)) return Esito_Modifica::Uguale;
   if (!programma.piattaforma.Domanda("i dati sono stati cambiati... OK per continuare"))
     return Esito_Modifica::Annullata;
-  const Conti_Occupati occupati(programma.piattaforma);
+  const Clessidra clessidra(programma.piattaforma);
   const int scelta = zvendita.ListaCV.scelta;
   const Conto_CV prima = ContoScelto(zvendita);
   Ricordo_CV ricordo(programma.Vet_Tabella);
@@ -125,7 +125,7 @@ Esito_Modifica EseguiModifica(Programma& programma, Zvendita& zvendita) {
 bool EseguiSalvaNumerazione(Programma& programma, Zvendita& zvendita) {
   if (!programma.piattaforma.Domanda("ok per salvare i numeri di conto vendita....")) return true;
   if (Giorno_Diverso(programma) && !Conferma_Altro_Giorno(programma)) return true;
-  const Conti_Occupati occupati(programma.piattaforma);
+  const Clessidra clessidra(programma.piattaforma);
   AttivaImporti(zvendita, false);
   Ricordo_CV ricordo(programma.Vet_Tabella);
   for (const Conto_CV& conto : zvendita.Tabella_CV)
@@ -146,19 +146,19 @@ bool Aggiorna_Ultimo_CV(Programma& programma, const Zvendita& zvendita) {
 
 void ModificaDati(Programma& programma, Zvendita& zvendita) {
   if (!zvendita.attiva || zvendita.Tabella_CV.empty()) return;
-  const Conti_Fermi fermi(zvendita);
+  const auto fermi = Ferma(zvendita);
   EseguiModifica(programma, zvendita);
 }
 
 void SalvaNumerazione(Programma& programma, Zvendita& zvendita) {
   if (!zvendita.attiva) return;
-  const Conti_Fermi fermi(zvendita);
+  const auto fermi = Ferma(zvendita);
   EseguiSalvaNumerazione(programma, zvendita);
 }
 
 void Rinumera(Programma& programma, Zvendita& zvendita) {
   if (!zvendita.attiva) return;
-  const Conti_Fermi fermi(zvendita);
+  const auto fermi = Ferma(zvendita);
   if (!programma.piattaforma.Domanda("OK per rinumerare i conti vendita...")) return;
   const auto risposta = programma.piattaforma.Chiedi("primo numero", "Rinumera Conti Vendita",
                                                      std::to_string(programma.Ultimo_CV));
@@ -179,7 +179,7 @@ void Rinumera(Programma& programma, Zvendita& zvendita) {
 
 void CancellaNumerazione(Programma& programma, Zvendita& zvendita) {
   if (!zvendita.attiva) return;
-  const Conti_Fermi fermi(zvendita);
+  const auto fermi = Ferma(zvendita);
   if (!programma.piattaforma.Domanda("OK per cancellare la numerazione attuale dei conti vendita...")) return;
   for (Conto_CV& conto : zvendita.Tabella_CV) conto.NCV = "0";
   RiempiListaCV(programma, zvendita, zvendita.ListaCV.scelta);

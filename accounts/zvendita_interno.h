@@ -1,42 +1,14 @@
 #pragma once
 
-#include <utility>
-
 #include "accounts/zvendita.h"
+#include "core/impegno.h"
 
 // What the routines of the screen share among themselves.
 
-// A command runs or asks: keys and clicks that come meanwhile do nothing.
-class Conti_Fermi {
- public:
-  explicit Conti_Fermi(Zvendita& zvendita)
-      : zvendita_(zvendita), era_attiva_(std::exchange(zvendita.attiva, false)) {
-    AggiornaComandi(zvendita_);
-  }
-  ~Conti_Fermi() {
-    zvendita_.attiva = era_attiva_;
-    AggiornaComandi(zvendita_);
-  }
-  Conti_Fermi(const Conti_Fermi&) = delete;
-  Conti_Fermi& operator=(const Conti_Fermi&) = delete;
-
- private:
-  Zvendita& zvendita_;
-  bool era_attiva_;
-};
-
-class Conti_Occupati {
- public:
-  explicit Conti_Occupati(Piattaforma& piattaforma) : piattaforma_(piattaforma) {
-    piattaforma_.Occupato(true);
-  }
-  ~Conti_Occupati() { piattaforma_.Occupato(false); }
-  Conti_Occupati(const Conti_Occupati&) = delete;
-  Conti_Occupati& operator=(const Conti_Occupati&) = delete;
-
- private:
-  Piattaforma& piattaforma_;
-};
+// A command runs or asks.
+inline auto Ferma(Zvendita& zvendita) {
+  return Schermo_Fermo(zvendita, [&zvendita] { AggiornaComandi(zvendita); });
+}
 
 // The caption with the day and the last number.
 void TitoloConti(const Programma& programma, Zvendita& zvendita);

@@ -139,7 +139,7 @@ void Di_File_Falliti(const Programma& programma, const Zvendita& zvendita) {
 
 void ConfermaDati(Programma& programma, Zvendita& zvendita) {
   if (!zvendita.attiva) return;
-  const Conti_Fermi fermi(zvendita);
+  const auto fermi = Ferma(zvendita);
   if (zvendita.Tabella_CV.empty()) return programma.piattaforma.Messaggio("nulla da fare...");
   if (zvendita.ListaCV.scelta < 0) {
     SceltaConto(zvendita, 0);
@@ -154,11 +154,11 @@ void ConfermaDati(Programma& programma, Zvendita& zvendita) {
 
 void StampaCV(Programma& programma, Zvendita& zvendita) {
   if (!zvendita.attiva) return;
-  const Conti_Fermi fermi(zvendita);
+  const auto fermi = Ferma(zvendita);
   zvendita.file_falliti.clear();
   Esito_Stampa esito = Esito_Stampa::Finita;
   {
-    const Conti_Occupati occupati(programma.piattaforma);
+    const Clessidra clessidra(programma.piattaforma);
     PrendiOpzioni(programma, zvendita);
     esito = zvendita.Check1.segnata ? Stampa_Tutti(programma, zvendita) : Stampa_Uno(programma, zvendita);
     if (esito == Esito_Stampa::Finita) Aggiorna_Ultimo_CV(programma, zvendita);

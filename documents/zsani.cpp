@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/giorno.h"
+#include "core/impegno.h"
 #include "core/numeri.h"
 #include "lists/liste.h"
 #include "lists/ordina.h"
@@ -24,36 +25,10 @@ Testo Gia_Stampati(Vista domanda) {
   return "Alcuni documenti sono già stati stampati con la numerazione attuale...\n"_t.append(domanda);
 }
 
-// A command runs or asks: keys and clicks that come meanwhile do nothing.
-class Fermo {
- public:
-  explicit Fermo(Zsani& zsani) : zsani_(zsani), era_attiva_(std::exchange(zsani.attiva, false)) {
-    AggiornaComandi(zsani_);
-  }
-  ~Fermo() {
-    zsani_.attiva = era_attiva_;
-    AggiornaComandi(zsani_);
-  }
-  Fermo(const Fermo&) = delete;
-  Fermo& operator=(const Fermo&) = delete;
-
- private:
-  Zsani& zsani_;
-  bool era_attiva_;
-};
-
-class Puntatore_Occupato {
- public:
-  explicit Puntatore_Occupato(Piattaforma& piattaforma) : piattaforma_(piattaforma) {
-    piattaforma_.Occupato(true);
-  }
-  ~Puntatore_Occupato() { piattaforma_.Occupato(false); }
-  Puntatore_Occupato(const Puntatore_Occupato&) = delete;
-  Puntatore_Occupato& operator=(const Puntatore_Occupato&) = delete;
-
- private:
-  Piattaforma& piattaforma_;
-};
+// A command runs or asks.
+auto Ferma(Zsani& zsani) {
+  return Schermo_Fermo(zsani, [&zsani] { AggiornaComandi(zsani); });
+}
 
 // The list is out of sight while its numbers change.
 class Lista_Nascosta {
@@ -131,7 +106,7 @@ void Prepara_Controlli(const Programma& programma, Zsani& zsani) {
 
 void Apri(Programma& programma, Zsani& zsani, ModoDocumenti modo, std::vector<LedgerRow> righe,
           ListaDocumenti lista) {
-  const Puntatore_Occupato occupato(programma.piattaforma);
+  const Clessidra clessidra(programma.piattaforma);
   zsani.modo = modo;
   zsani.chiusa = false;
   zsani.attiva = true;
@@ -191,7 +166,7 @@ EsitoNumeri Salva_Con_Domanda(Programma& programma, const Zsani& zsani) {
   if (zsani.ListaDoc.empty()) return EsitoNumeri::Annullato;  // no number to save
   if (!programma.piattaforma.Domanda("Ok per salvare la attuale numerazione dei documenti...."))
     return EsitoNumeri::Annullato;
-  const Puntatore_Occupato occupato(programma.piattaforma);
+  const Clessidra clessidra(programma.piattaforma);
   std::vector<Testo> prima = Colonna_DDT(programma.Vet_Tabella);
   Scrivi_Numeri(programma, zsani);
   bool errore = false;
@@ -401,7 +376,7 @@ void AggiornaNumeri(Zsani& zsani) {
 
 void NumeraAutomatica(Programma& programma, Zsani& zsani) {
   if (!zsani.attiva || zsani.modo != ModoDocumenti::Tutti || zsani.ListaDoc.empty()) return;
-  const Fermo fermo(zsani);
+  const auto fermo = Ferma(zsani);
   if (QualcunoStampato(zsani.ListaDoc) &&
       !programma.piattaforma.Domanda(Gia_Stampati("OK per rinumerare ugualmente")))
     return;
@@ -418,7 +393,7 @@ void NumeraAutomatica(Programma& programma, Zsani& zsani) {
 
 void AnnullaNumeri(Programma& programma, Zsani& zsani) {
   if (!zsani.attiva || zsani.modo != ModoDocumenti::Tutti || zsani.ListaDoc.empty()) return;
-  const Fermo fermo(zsani);
+  const auto fermo = Ferma(zsani);
   if (!programma.piattaforma.Domanda(
           "OK per annullare la numerazione: la numerazione attuale sarà perduta..."_t
           "eventuali errori possono essere corretti manualmente..."_t))
@@ -435,7 +410,7 @@ void AnnullaNumeri(Programma& programma, Zsani& zsani) {
 
 void ControllaNumeri(Programma& programma, Zsani& zsani) {
   if (!zsani.attiva || zsani.modo != ModoDocumenti::Tutti || zsani.ListaDoc.empty()) return;
-  const Fermo fermo(zsani);
+  const auto fermo = Ferma(zsani);
   Testo spiegazione;
   for (const Vista riga : controlli) spiegazione.append(spiegazione.empty() ? "" : "\n").append(riga);
   if (!programma.piattaforma.Domanda(spiegazione)) return;
@@ -468,13 +443,13 @@ void OrdinaDocumenti(Programma& programma, Zsani& zsani, int ordine) {
 
 EsitoNumeri SalvaNumeri(Programma& programma, Zsani& zsani) {
   if (!zsani.attiva) return EsitoNumeri::Annullato;
-  const Fermo fermo(zsani);
+  const auto fermo = Ferma(zsani);
   return Salva_Con_Domanda(programma, zsani);
 }
 
 void StampaDocumenti(Programma& programma, Zsani& zsani) {
   if (!zsani.attiva || !zsani.stampa || zsani.ListaDoc.empty()) return;
-  const Fermo fermo(zsani);
+  const auto fermo = Ferma(zsani);
   if (zsani.MList2.scelta < 0) {
     zsani.MList2.scelta = 0;
     Mostra_Voce(zsani);
@@ -482,7 +457,7 @@ void StampaDocumenti(Programma& programma, Zsani& zsani) {
   bool finita = false;
   const Testo titolo = zsani.titolo;
   {
-    const Puntatore_Occupato occupato(programma.piattaforma);
+    const Clessidra clessidra(programma.piattaforma);
     finita = Stampa_Copie(programma, zsani);
   }
   zsani.titolo = titolo;
@@ -492,6 +467,6 @@ void StampaDocumenti(Programma& programma, Zsani& zsani) {
 
 void ChiudiDocumenti(Programma& programma, Zsani& zsani) {
   if (!zsani.attiva) return;
-  const Fermo fermo(zsani);
+  const auto fermo = Ferma(zsani);
   Chiudi(programma, zsani);
 }

@@ -2,8 +2,8 @@
 
 #include <cerrno>
 
+#include "core/impegno.h"
 #include "core/numeri.h"
-#include "entry/impegno.h"
 #include "lists/file_lista.h"
 #include "lists/liste.h"
 

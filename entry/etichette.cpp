@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "core/impegno.h"
 #include "core/numeri.h"
 #include "core/profili.h"
-#include "entry/impegno.h"
 #include "entry/pagina_etichetta.h"
 #include "printing/pagina.h"
 

@@ -1,7 +1,7 @@
 #include "entry/lotti.h"
 
 #include "core/date.h"
-#include "entry/impegno.h"
+#include "core/impegno.h"
 #include "lists/file_lista.h"
 #include "lists/liste.h"
 

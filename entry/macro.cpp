@@ -4,8 +4,8 @@
 #include <span>
 
 #include "core/giorno.h"
+#include "core/impegno.h"
 #include "core/numeri.h"
-#include "entry/impegno.h"
 #include "lists/file_lista.h"
 #include "lists/liste.h"
 

@@ -1,6 +1,6 @@
 #include "entry/ordinamenti.h"
 
-#include "entry/impegno.h"
+#include "core/impegno.h"
 #include "lists/ordina.h"
 
 namespace {

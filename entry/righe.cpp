@@ -1,7 +1,7 @@
 #include "core/giorno.h"
+#include "core/impegno.h"
 #include "core/numeri.h"
 #include "entry/edita.h"
-#include "entry/impegno.h"
 
 // The commands that change the day's table: add, modify, delete, save, and the numbers given by hand.
 

@@ -356,7 +356,7 @@ void ApriFatture(Programma& programma, ZFatture& zfatture) {
   if (!zfatture.variante->spedizione)
     preferenze.FlagSoloRis = preferenze.FlagSoloRis && preferenze.FlagRistoranti;
   zfatture.titolo = zfatture.variante->titolo;
-  const Fermo fermo(programma, zfatture);
+  const auto fermo = Ferma(programma, zfatture);
   Prepara_Controlli(programma, zfatture);
   zfatture.titolo = Titolo(programma, zfatture, TipoFattura::Fattura);
 
@@ -389,7 +389,7 @@ void TogliFatture(const Programma& programma, ZFatture& zfatture,
 
 void ChiudiFatture(Programma& programma, ZFatture& zfatture) {
   if (!zfatture.attiva || zfatture.chiusa) return;
-  const Fermo fermo(programma, zfatture);
+  const auto fermo = Ferma(programma, zfatture);
   Chiudi_Schermo(programma, zfatture);
 }
 
@@ -400,7 +400,7 @@ void SceltaDocumento(Programma& programma, ZFatture& zfatture, TipoFattura tipo,
 
 void CambiaFiltro(Programma& programma, ZFatture& zfatture, bool ristoranti) {
   if (!zfatture.attiva) return;
-  const Fermo fermo(programma, zfatture);
+  const auto fermo = Ferma(programma, zfatture);
   programma.piattaforma.Messaggio(ristoranti ? "Solo Ristoranti: Riavviare la Procedura..."
                                              : "Riavviare la Procedura...");
   Chiudi_Schermo(programma, zfatture);
@@ -412,19 +412,19 @@ void Ordina(Programma& programma, ZFatture& zfatture, ColonnaFatture colonna) {
 
 void NumeraFat(Programma& programma, ZFatture& zfatture) {
   if (!zfatture.attiva) return;
-  const Fermo fermo(programma, zfatture);
+  const auto fermo = Ferma(programma, zfatture);
   Numera_Fatture(programma, zfatture);
 }
 
 void NumeraNA(Programma& programma, ZFatture& zfatture) {
   if (!zfatture.attiva) return;
-  const Fermo fermo(programma, zfatture);
+  const auto fermo = Ferma(programma, zfatture);
   Numera_Note(programma, zfatture);
 }
 
 void NumeraTutto(Programma& programma, ZFatture& zfatture) {
   if (!zfatture.attiva) return;
-  const Fermo fermo(programma, zfatture);
+  const auto fermo = Ferma(programma, zfatture);
   Ordina_Con_Bottone(programma, zfatture, ColonnaFatture::Codice);
   Numera_Fatture(programma, zfatture);
   Numera_Note(programma, zfatture);
@@ -432,7 +432,7 @@ void NumeraTutto(Programma& programma, ZFatture& zfatture) {
 
 void AnnullaNumerazione(Programma& programma, ZFatture& zfatture) {
   if (!zfatture.attiva || zfatture.TabellaFatture.empty()) return;
-  const Fermo fermo(programma, zfatture);
+  const auto fermo = Ferma(programma, zfatture);
   // a day without notes keeps its numbers in the ledger until the closing
   if (!zfatture.TabellaNote.empty() && !Azzera_FAT(programma)) return;
   for (Voce_Fattura& voce : zfatture.TabellaFatture) voce.Numero.clear();

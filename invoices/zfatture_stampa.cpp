@@ -46,7 +46,7 @@ void Mostra_Scelte(ZFatture& zfatture, const Scelte_Stampa& scelte) {
 
 template <class Comando>
 void Esegui(Programma& programma, ZFatture& zfatture, Comando comando) {
-  const Fermo fermo(programma, zfatture);
+  const auto fermo = Ferma(programma, zfatture);
   Stampa_Fatture stampa{.fatture = zfatture.TabellaFatture,
                         .note = zfatture.TabellaNote,
                         .scelte = Scelte(zfatture),

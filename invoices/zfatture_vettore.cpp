@@ -121,6 +121,6 @@ void SelezionaAlfanumerici(Programma& programma, ZFatture& zfatture) {
 
 void MostraEsclusi(Programma& programma, ZFatture& zfatture) {
   if (!zfatture.attiva) return;
-  const Fermo fermo(programma, zfatture);
+  const auto fermo = Ferma(programma, zfatture);
   programma.piattaforma.Messaggio(zfatture.Esclusi.testo, Icona::Informazione);
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/impegno.h"
 #include "core/numeri.h"
 #include "primanota/esporta.h"
 #include "primanota/nota.h"
@@ -14,38 +15,10 @@ namespace {
 constexpr Vista tutto = "TUTTO";
 constexpr Vista in_stampa = "Prima Nota in stampa : ";
 
-// A command runs or asks: keys and clicks that come meanwhile do nothing.
-class Fermo {
- public:
-  Fermo(const Programma& programma, Znota& znota)
-      : programma_(programma), znota_(znota), era_attiva_(std::exchange(znota.attiva, false)) {
-    AggiornaComandi(programma_, znota_);
-  }
-  ~Fermo() {
-    znota_.attiva = era_attiva_;
-    AggiornaComandi(programma_, znota_);
-  }
-  Fermo(const Fermo&) = delete;
-  Fermo& operator=(const Fermo&) = delete;
-
- private:
-  const Programma& programma_;
-  Znota& znota_;
-  bool era_attiva_;
-};
-
-class Puntatore_Occupato {
- public:
-  explicit Puntatore_Occupato(Piattaforma& piattaforma) : piattaforma_(piattaforma) {
-    piattaforma_.Occupato(true);
-  }
-  ~Puntatore_Occupato() { piattaforma_.Occupato(false); }
-  Puntatore_Occupato(const Puntatore_Occupato&) = delete;
-  Puntatore_Occupato& operator=(const Puntatore_Occupato&) = delete;
-
- private:
-  Piattaforma& piattaforma_;
-};
+// A command runs or asks.
+auto Ferma(const Programma& programma, Znota& znota) {
+  return Schermo_Fermo(znota, [&programma, &znota] { AggiornaComandi(programma, znota); });
+}
 
 Testo Titolo(const Programma& programma, const Znota& znota) {
   return "Stampa Prima Nota del " + programma.Data_Giorno +
@@ -231,8 +204,8 @@ bool TastoNote(Programma& programma, Znota& znota, const Pressione& pressione) {
 void StampaNote(Programma& programma, Znota& znota) {
   if (!znota.attiva) return;
   {
-    const Fermo fermo(programma, znota);
-    const Puntatore_Occupato occupato(programma.piattaforma);
+    const auto fermo = Ferma(programma, znota);
+    const Clessidra clessidra(programma.piattaforma);
     Prepara_Righe(programma, znota);
     if (znota.Unico_Documento.segnata)
       Stampa_Tutto(programma, znota);
@@ -267,13 +240,13 @@ void StampaNota(Programma& programma, Znota& znota, const std::vector<LedgerRow>
 
 void Esporta(Programma& programma, Znota& znota) {
   if (!znota.attiva) return;
-  const Fermo fermo(programma, znota);
+  const auto fermo = Ferma(programma, znota);
   EsportaPrimaNota(programma, znota.Limita_Zona.segnata, znota.scegli_drive);
 }
 
 void EsportaSulDisco(Programma& programma, Znota& znota) {
   if (!znota.attiva) return;
-  const Fermo fermo(programma, znota);
+  const auto fermo = Ferma(programma, znota);
   EsportaPrimaNota(programma, znota.Limita_Zona.segnata, {});
 }
 

@@ -1,29 +1,10 @@
 #pragma once
 
-#include <utility>
-
+#include "core/impegno.h"
 #include "core/programma.h"
 
-// A command of a screen runs or asks: the pointer shows it, and clicks and keys that come meanwhile do
-// nothing.
+// A command of one of these screens runs or asks.
 template <class Schermo>
-class Comando_In_Corso {
- public:
-  Comando_In_Corso(Programma& programma, Schermo& schermo)
-      : programma_(programma), schermo_(schermo), era_attiva_(std::exchange(schermo.attiva, false)) {
-    programma_.piattaforma.Occupato(true);
-    Aggiorna_Comandi(schermo_);
-  }
-  ~Comando_In_Corso() {
-    schermo_.attiva = era_attiva_;
-    programma_.piattaforma.Occupato(false);
-    Aggiorna_Comandi(schermo_);
-  }
-  Comando_In_Corso(const Comando_In_Corso&) = delete;
-  Comando_In_Corso& operator=(const Comando_In_Corso&) = delete;
-
- private:
-  Programma& programma_;
-  Schermo& schermo_;
-  bool era_attiva_;
-};
+auto In_Corso(Programma& programma, Schermo& schermo) {
+  return Schermo_Occupato(schermo, programma.piattaforma, [&schermo] { Aggiorna_Comandi(schermo); });
+}

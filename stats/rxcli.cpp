@@ -116,7 +116,7 @@ void Scelto_Cliente(RXcli& schermo) { schermo.ListaTotali.scelta = schermo.Lista
 
 void Stampa_Clienti(Programma& programma, RXcli& schermo) {
   if (!schermo.attiva) return;
-  const Comando_In_Corso in_corso(programma, schermo);
+  const auto in_corso = In_Corso(programma, schermo);
   const bool solo_peso = schermo.SoloPeso.segnata;
   Foglio_Di_Righe foglio;
   foglio.documento = {programma.Data_AAAAMMGG, "Totali Clienti", "", ""};
@@ -132,13 +132,13 @@ void Stampa_Clienti(Programma& programma, RXcli& schermo) {
 
 void Stampa_Barre(Programma& programma, RXcli& schermo) {
   if (!schermo.attiva) return;
-  const Comando_In_Corso in_corso(programma, schermo);
+  const auto in_corso = In_Corso(programma, schermo);
   Stampa_Grafico(programma, schermo.grafico, schermo.titolo);
 }
 
 void Salva_Totali(Programma& programma, RXcli& schermo) {
   if (!schermo.attiva || !schermo.scegli_file) return;
-  const Comando_In_Corso in_corso(programma, schermo);
+  const auto in_corso = In_Corso(programma, schermo);
   const auto file = schermo.scegli_file();
   if (!file) return;
   std::vector<Testo> righe = {

@@ -221,7 +221,7 @@ void Passo_Data(CampoTesto& campo, bool avanti) {
 
 void Calcola_Saldo(Programma& programma, RXFor& schermo) {
   if (!schermo.attiva) return;
-  const Comando_In_Corso in_corso(programma, schermo);
+  const auto in_corso = In_Corso(programma, schermo);
   if (!schermo.Check1.segnata && !schermo.Check2.segnata) {
     programma.piattaforma.Messaggio("Scegliere le opzioni (fornitori o specie e fornitori...");
     return;
@@ -241,7 +241,7 @@ void Calcola_Saldo(Programma& programma, RXFor& schermo) {
 
 void Stampa_Saldo(Programma& programma, RXFor& schermo) {
   if (!schermo.attiva || schermo.Vet_Temp1.empty()) return;
-  const Comando_In_Corso in_corso(programma, schermo);
+  const auto in_corso = In_Corso(programma, schermo);
   const char separatore = programma.Separatore_Decimale;
   Foglio_Di_Righe foglio;
   foglio.documento = {programma.Data_AAAAMMGG, "Saldo", schermo.da + "-" + schermo.a, ""};
@@ -264,13 +264,13 @@ void Stampa_Saldo(Programma& programma, RXFor& schermo) {
 
 void Stampa_Barre(Programma& programma, RXFor& schermo) {
   if (!schermo.attiva) return;
-  const Comando_In_Corso in_corso(programma, schermo);
+  const auto in_corso = In_Corso(programma, schermo);
   Stampa_Grafico(programma, schermo.grafico, schermo.titolo);
 }
 
 void Salva_Saldo(Programma& programma, RXFor& schermo) {
   if (!schermo.attiva || schermo.ListaSaldo.Numero() == 0) return;
-  const Comando_In_Corso in_corso(programma, schermo);
+  const auto in_corso = In_Corso(programma, schermo);
   const Percorso cartella = Unisci_Percorso(programma.Cartella_Dati, Cartella_Statistiche);
   if (!Crea_Cartella(programma, cartella)) return;
   std::vector<Testo> righe;

@@ -99,7 +99,7 @@ std::vector<Testo> Righe_Del_Fornitore(const Statistica& schermo, Vista fornitor
 }
 
 void Stampa(Programma& programma, Statistica& schermo, const std::vector<Testo>& righe, Vista carattere) {
-  const Comando_In_Corso in_corso(programma, schermo);
+  const auto in_corso = In_Corso(programma, schermo);
   Foglio_Di_Righe foglio;
   foglio.documento = {programma.Data_AAAAMMGG, "Statistica", "", ""};
   foglio.codice = "Statistica";
@@ -183,13 +183,13 @@ void Stampa_Fornitore(Programma& programma, Statistica& schermo) {
 
 void Stampa_Barre(Programma& programma, Statistica& schermo) {
   if (!schermo.attiva) return;
-  const Comando_In_Corso in_corso(programma, schermo);
+  const auto in_corso = In_Corso(programma, schermo);
   Stampa_Grafico(programma, schermo.grafico, schermo.titolo);
 }
 
 void Salva_Statistica(Programma& programma, Statistica& schermo) {
   if (!schermo.attiva || !schermo.scegli_file) return;
-  const Comando_In_Corso in_corso(programma, schermo);
+  const auto in_corso = In_Corso(programma, schermo);
   const auto file = schermo.scegli_file();
   if (!file) return;
   std::vector<Testo> righe = {""};

@@ -81,7 +81,7 @@ void Aggiorna_Comandi(Statistica2& schermo) {
 
 void Applica_Periodo(Programma& programma, Statistica2& schermo) {
   if (!schermo.attiva) return;
-  const Comando_In_Corso in_corso(programma, schermo);
+  const auto in_corso = In_Corso(programma, schermo);
   schermo.da = Pulito(schermo.Text1.testo);
   schermo.a = Pulito(schermo.Text2.testo);
   Vuota(programma, schermo);
@@ -101,7 +101,7 @@ void Applica_Periodo(Programma& programma, Statistica2& schermo) {
 
 void Stampa_Periodo(Programma& programma, Statistica2& schermo) {
   if (!schermo.attiva) return;
-  const Comando_In_Corso in_corso(programma, schermo);
+  const auto in_corso = In_Corso(programma, schermo);
   Foglio_Di_Righe foglio;
   foglio.documento = {programma.Data_AAAAMMGG, "Statistica", schermo.da + "-" + schermo.a, ""};
   foglio.codice = "Statistica";
@@ -114,7 +114,7 @@ void Stampa_Periodo(Programma& programma, Statistica2& schermo) {
 
 void Stampa_Barre(Programma& programma, Statistica2& schermo) {
   if (!schermo.attiva) return;
-  const Comando_In_Corso in_corso(programma, schermo);
+  const auto in_corso = In_Corso(programma, schermo);
   Stampa_Grafico(programma, schermo.grafico, schermo.titolo);
 }
 
