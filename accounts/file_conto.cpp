@@ -66,7 +66,7 @@ int ScriviFileConto(const Disco& disco, const Percorso& cartella_anno, Vista nom
 }
 
 std::optional<Testa_Conto> Leggi_Testa_Conto(const Disco& disco, const Percorso& file) {
-  const auto contenuto = disco.Leggi(file);
+  const auto contenuto = disco.Leggi_Testo(file);
   if (!contenuto) return std::nullopt;
   Testa_Conto testa;
   Testo* const campi[] = {&testa.Fornitore, &testa.ImponibileTotale, &testa.Commissioni};
@@ -74,4 +74,22 @@ std::optional<Testa_Conto> Leggi_Testa_Conto(const Disco& disco, const Percorso&
   for (std::size_t i = 0; i < std::min(std::size(campi), righe.size()); ++i)
     *campi[i] = Testo(Pulito(righe[i]));
   return testa;
+}
+
+void ScriviConto(const Programma& programma, const Documento_CV& documento, Forma_Importi forma,
+                 std::vector<Testo>& falliti) {
+  const Conto_CV& conto = documento.conto;
+  const char separatore = programma.Separatore_Decimale;
+  const auto nome = NomeFileConto(conto.Data, conto.NCV, separatore);
+  const bool scritto =
+      nome && ScriviFileConto(programma.disco, programma.Cartella_Anno, *nome,
+                              ContenutoFileConto(conto.Fornitore, documento.importi, forma, separatore)) == 0;
+  if (!scritto) falliti.push_back(RigaListaCV(conto, separatore));
+}
+
+void DiFileFalliti(const Programma& programma, const std::vector<Testo>& falliti) {
+  if (falliti.empty()) return;
+  Testo testo = "Il file di questi conti vendita non è stato scritto nella cartella CV_NO:"_t;
+  for (const Testo& riga : falliti) testo += "\n" + riga;
+  programma.piattaforma.Messaggio(testo);
 }

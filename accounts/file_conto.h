@@ -2,8 +2,8 @@
 
 #include <optional>
 
-#include "accounts/importi.h"
-#include "core/disco.h"
+#include "accounts/pagine.h"
+#include "core/programma.h"
 
 // The text file of an account, in the year's folder CV_NO under the name MMDDNNNN.txt (month, day, account
 // number): thirteen lines, the supplier, then amounts with the machine's decimal separator. Its twin in CV_SI
@@ -24,6 +24,12 @@ Testo ContenutoFileConto(Vista fornitore, const Importi_CV& importi, Forma_Impor
 // Puts the file into CV_NO of `cartella_anno`, then removes its twin from CV_SI. An errno, 0 for success:
 // when the file can't be written the twin stays.
 int ScriviFileConto(const Disco& disco, const Percorso& cartella_anno, Vista nome, Vista contenuto);
+
+// Writes the file of an account that was printed. One that can't be written is kept among `falliti` by its
+// line in the list, to be told when the print is done.
+void ScriviConto(const Programma& programma, const Documento_CV& documento, Forma_Importi forma,
+                 std::vector<Testo>& falliti);
+void DiFileFalliti(const Programma& programma, const std::vector<Testo>& falliti);
 
 // Its first three lines as they stand, trimmed; a line that is missing is empty.
 struct Testa_Conto {

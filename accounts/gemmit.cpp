@@ -5,6 +5,7 @@
 
 #include "accounts/file_conto.h"
 #include "accounts/numerazione.h"
+#include "core/corsa.h"
 #include "core/impegno.h"
 #include "core/numeri.h"
 #include "lists/ordina.h"
@@ -134,33 +135,18 @@ std::optional<Documento_CV> Elabora(const Programma& programma, Zgemmit& zgemmit
   return documento;
 }
 
-void Scrivi_File(const Programma& programma, Zgemmit& zgemmit, const Documento_CV& documento) {
-  const Conto_CV& conto = documento.conto;
-  const char separatore = programma.Separatore_Decimale;
-  const auto nome = NomeFileConto(conto.Data, conto.NCV, separatore);
-  const bool scritto = nome && ScriviFileConto(programma.disco, programma.Cartella_Anno, *nome,
-                                               ContenutoFileConto(conto.Fornitore, documento.importi,
-                                                                  Forma_Importi::Piana, separatore)) == 0;
-  if (!scritto) zgemmit.file_falliti.push_back(RigaListaCV(conto, separatore));
-}
-
-void Di_File_Falliti(const Programma& programma, const Zgemmit& zgemmit) {
-  if (zgemmit.file_falliti.empty()) return;
-  Testo testo = "Il file di questi conti vendita non è stato scritto nella cartella CV_NO:"_t;
-  for (const Testo& riga : zgemmit.file_falliti) testo += "\n" + riga;
-  programma.piattaforma.Messaggio(testo);
-}
-
-void Elabora_E_Stampa(const Programma& programma, Zgemmit& zgemmit, std::size_t quale) {
+// False where the account is left out, which has been told.
+bool Elabora_E_Stampa(const Programma& programma, Zgemmit& zgemmit, std::size_t quale) {
   const auto documento = Elabora(programma, zgemmit, zgemmit.Tabella_CV[quale]);
-  if (!documento) return;
+  if (!documento) return false;
   zgemmit.titolo = in_corso;
   const Scelta_Tracciato scelta = TracciatoManuale(programma.preferenze.FlagStampaFrame);
   const int copie = std::max(1, zgemmit.Combo1.scelta + 1);
   for (int copia = 0; copia < copie; ++copia)
     StampaConto(programma, *documento, scelta,
                 [&](const Testo& pagina) { Progresso(programma, zgemmit, pagina); });
-  Scrivi_File(programma, zgemmit, *documento);
+  ScriviConto(programma, *documento, Forma_Importi::Piana, zgemmit.file_falliti);
+  return true;
 }
 
 void Nascondi_Anteprima(const Programma& programma, Zgemmit& zgemmit) {
@@ -171,17 +157,29 @@ void Nascondi_Anteprima(const Programma& programma, Zgemmit& zgemmit) {
 }
 
 // Nobody is left out, whatever the question says.
-void Stampa_Tutti(const Programma& programma, Zgemmit& zgemmit) {
+void Stampa_Tutti(const Programma& programma, Zgemmit& zgemmit, Corsa& corsa) {
   if (zgemmit.Tabella_CV.empty() ||
       !programma.piattaforma.Domanda(
           "OK per stampare tutti i Conti Vendita\n(salta quelli con provvigione=0)"))
     return;
   if (zgemmit.Anteprima.visibile) Nascondi_Anteprima(programma, zgemmit);
-  for (std::size_t i = 0; i < zgemmit.Tabella_CV.size(); ++i) {
+  for (std::size_t i = 0; i < zgemmit.Tabella_CV.size() && corsa.Avanti(); ++i) {
     zgemmit.ListaCV.scelta = static_cast<int>(i);
     Mostra_Conto(programma, zgemmit);
-    Elabora_E_Stampa(programma, zgemmit, i);
+    if (Elabora_E_Stampa(programma, zgemmit, i)) corsa.Fatta();
   }
+}
+
+// Of a stopped run the last number goes to the highest on paper, and never down: no number on paper may be
+// given again.
+void Alza_Ultimo_CV(Programma& programma, const Zgemmit& zgemmit) {
+  int massimo = programma.Ultimo_CV;
+  for (int i = 0; i <= zgemmit.ListaCV.scelta; ++i) {
+    const Testo& ncv = zgemmit.Tabella_CV[static_cast<std::size_t>(i)].NCV;
+    if (Numerato(ncv, programma.Separatore_Decimale))
+      massimo = std::max(massimo, NumeroCV(ncv, programma.Separatore_Decimale));
+  }
+  if (massimo != programma.Ultimo_CV) MettiUltimoCV(programma, massimo);
 }
 
 // ---- changes
@@ -374,13 +372,19 @@ void StampaCV(Programma& programma, Zgemmit& zgemmit) {
   const auto fermo = Ferma(programma, zgemmit);
   zgemmit.file_falliti.clear();
   Esito esito = Esito::Fatta;
+  Corsa corsa(programma.piattaforma, zgemmit.Tabella_CV.size());
   if (zgemmit.Check1.segnata)
-    Stampa_Tutti(programma, zgemmit);
+    Stampa_Tutti(programma, zgemmit, corsa);
   else
     esito = Stampa_Scelto(programma, zgemmit);
   zgemmit.titolo = "Conti Vendita" + Testo(fine_titolo);
-  Di_File_Falliti(programma, zgemmit);
+  DiFileFalliti(programma, zgemmit.file_falliti);
   if (esito == Esito::Fallita) return;  // told
+  if (corsa.Fermata()) {
+    Alza_Ultimo_CV(programma, zgemmit);
+    return programma.piattaforma.Messaggio(
+        corsa.Testo_Fermata({"Stampa interrotta", "conto vendita", "conti vendita"}), Icona::Informazione);
+  }
   if (!zgemmit.Tabella_CV.empty())
     MettiUltimoCV(programma, NumeroCV(zgemmit.Tabella_CV.back().NCV, programma.Separatore_Decimale));
   programma.piattaforma.Messaggio("fatto...");

@@ -1,12 +1,11 @@
 #pragma once
 
 #include <array>
-#include <functional>
 #include <vector>
 
 #include "accounts/conti.h"
 #include "accounts/importi.h"
-#include "printing/dispositivo.h"
+#include "printing/pagina.h"
 
 // How an account reaches the outside: the preview, and the printed pages in one of several layouts.
 
@@ -72,7 +71,6 @@ struct Foglio_CV {
 std::vector<Pagina_CV> PagineCV(const Documento_CV& documento, Scelta_Tracciato scelta,
                                 const Foglio_CV& foglio, char separatore);
 
-// Draws one copy, with its EndDoc. `avanzamento` gets the caption while each page is drawn.
-using Avanzamento = std::function<void(const Testo&)>;
+// Draws one copy, with its EndDoc.
 void StampaConto(const Programma& programma, const Documento_CV& documento, Scelta_Tracciato scelta,
                  const Avanzamento& avanzamento);

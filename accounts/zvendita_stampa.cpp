@@ -4,6 +4,7 @@
 #include "accounts/file_conto.h"
 #include "accounts/numerazione.h"
 #include "accounts/zvendita_interno.h"
+#include "core/corsa.h"
 #include "core/numeri.h"
 
 namespace {
@@ -43,16 +44,6 @@ void Copie(Programma& programma, Zvendita& zvendita, const Documento_CV& documen
     });
 }
 
-void ScriviFile(const Programma& programma, Zvendita& zvendita, const Documento_CV& documento) {
-  const Conto_CV& conto = documento.conto;
-  const char separatore = programma.Separatore_Decimale;
-  const auto nome = NomeFileConto(conto.Data, conto.NCV, separatore);
-  const bool scritto = nome && ScriviFileConto(programma.disco, programma.Cartella_Anno, *nome,
-                                               ContenutoFileConto(conto.Fornitore, documento.importi,
-                                                                  Forma_Importi::Centesimi, separatore)) == 0;
-  if (!scritto) zvendita.file_falliti.push_back(RigaListaCV(conto, separatore));
-}
-
 // Finds the supplier; without him the account is left out, and nothing of it is printed or written.
 bool Trova_Fornitore(const Programma& programma, Zvendita& zvendita) {
   const Testo nome(Pulito(ContoScelto(zvendita).Fornitore));
@@ -66,14 +57,15 @@ bool Trova_Fornitore(const Programma& programma, Zvendita& zvendita) {
   return true;
 }
 
-void ElaboraCV(Programma& programma, Zvendita& zvendita) {
+// False where the account is left out, which has been told.
+bool ElaboraCV(Programma& programma, Zvendita& zvendita) {
   if (zvendita.ListaCV.scelta < 0) {
     if (zvendita.Tabella_CV.size() > 1)
       programma.piattaforma.Messaggio("Scegliere il Conto Vendita da stampare...");
-    if (zvendita.Tabella_CV.size() != 1) return;
+    if (zvendita.Tabella_CV.size() != 1) return false;
     SceltaConto(zvendita, 0);
   }
-  if (!Trova_Fornitore(programma, zvendita)) return;
+  if (!Trova_Fornitore(programma, zvendita)) return false;
   zvendita.titolo = "Eleborazione in corso ... ";
   programma.piattaforma.Ridipingi();
   Documento_CV documento = ComponiConto(programma, zvendita);
@@ -82,7 +74,8 @@ void ElaboraCV(Programma& programma, Zvendita& zvendita) {
     if (scelta.tracciato == Tracciato_CV::Tipo1) CompletaPerTipo1(documento.importi, documento.regole);
     Copie(programma, zvendita, documento, scelta);
   }
-  ScriviFile(programma, zvendita, documento);
+  ScriviConto(programma, documento, Forma_Importi::Centesimi, zvendita.file_falliti);
+  return true;
 }
 
 // Before the first sheet comes out the file of last numbers holds at least what it will hold in the end:
@@ -96,19 +89,24 @@ bool Alza_Ultimo_CV(Programma& programma, const Zvendita& zvendita) {
 }
 
 // What a run came to before its last steps.
-enum class Esito_Stampa { Finita, Fallita };
+enum class Esito_Stampa { Finita, Interrotta, Fallita };
 
-Esito_Stampa Stampa_Tutti(Programma& programma, Zvendita& zvendita) {
+Parole_Corsa Parole(const Zvendita& zvendita) {
+  return {zvendita.Check3.segnata ? "Salvataggio interrotto" : "Stampa interrotta", "conto vendita",
+          "conti vendita"};
+}
+
+Esito_Stampa Stampa_Tutti(Programma& programma, Zvendita& zvendita, Corsa& corsa) {
   const Testo domanda = zvendita.Check3.segnata ? "OK per salvare tutti i Conti Vendita  (senza stampare)..."
                                                 : "OK per stampare tutti i Conti Vendita...";
   if (!programma.piattaforma.Domanda(domanda + "\n(i dati devono essere stati aggiornati)"))
     return Esito_Stampa::Finita;
   if (!Alza_Ultimo_CV(programma, zvendita)) return Esito_Stampa::Fallita;
-  for (std::size_t i = 0; i < zvendita.Tabella_CV.size(); ++i) {
+  for (std::size_t i = 0; i < zvendita.Tabella_CV.size() && corsa.Avanti(); ++i) {
     SceltaConto(zvendita, static_cast<int>(i));
-    ElaboraCV(programma, zvendita);
+    if (ElaboraCV(programma, zvendita)) corsa.Fatta();
   }
-  return Esito_Stampa::Finita;
+  return corsa.Fermata() ? Esito_Stampa::Interrotta : Esito_Stampa::Finita;
 }
 
 Esito_Stampa Stampa_Uno(Programma& programma, Zvendita& zvendita) {
@@ -126,13 +124,6 @@ void PrendiOpzioni(Programma& programma, const Zvendita& zvendita) {
   programma.preferenze.PercentualeAggioBanca = Pulito(zvendita.Text1[Campo_Aggio].testo);
   // a settings file that can't be written is told at closing, when all of it is written
   Scrivi_Preferenze(programma, {"PercentualeAggioBanca"});
-}
-
-void Di_File_Falliti(const Programma& programma, const Zvendita& zvendita) {
-  if (zvendita.file_falliti.empty()) return;
-  Testo testo = "Il file di questi conti vendita non è stato scritto nella cartella CV_NO:"_t;
-  for (const Testo& riga : zvendita.file_falliti) testo += "\n" + riga;
-  programma.piattaforma.Messaggio(testo);
 }
 
 }  // namespace
@@ -157,13 +148,18 @@ void StampaCV(Programma& programma, Zvendita& zvendita) {
   const auto fermi = Ferma(zvendita);
   zvendita.file_falliti.clear();
   Esito_Stampa esito = Esito_Stampa::Finita;
+  Corsa corsa(programma.piattaforma, zvendita.Tabella_CV.size());
   {
     const Clessidra clessidra(programma.piattaforma);
     PrendiOpzioni(programma, zvendita);
-    esito = zvendita.Check1.segnata ? Stampa_Tutti(programma, zvendita) : Stampa_Uno(programma, zvendita);
+    esito =
+        zvendita.Check1.segnata ? Stampa_Tutti(programma, zvendita, corsa) : Stampa_Uno(programma, zvendita);
+    // After a stop it stays above all numbers of the list, also those that are on paper already.
     if (esito == Esito_Stampa::Finita) Aggiorna_Ultimo_CV(programma, zvendita);
   }
   zvendita.titolo = zvendita.titolo_normale = "Conti Vendita";
-  Di_File_Falliti(programma, zvendita);
+  DiFileFalliti(programma, zvendita.file_falliti);
   if (esito == Esito_Stampa::Finita) programma.piattaforma.Messaggio("fatto...");
+  if (esito == Esito_Stampa::Interrotta)
+    programma.piattaforma.Messaggio(corsa.Testo_Fermata(Parole(zvendita)), Icona::Informazione);
 }

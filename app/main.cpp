@@ -20,7 +20,7 @@ int main(int argomenti, char** testi) {
   const Percorso ditta(QFile::encodeName(cartella).toStdString());
   Stampante_Qt stampante(ditta);
   Piattaforma_Qt piattaforma(stampante);
-  stampante.mostra = [&](const Percorso& file) { piattaforma.Apri_Con_Desktop(file); };
+  stampante.mostra = [&](const Percorso& file) { piattaforma.Mostra_Finito(file); };
   stampante.avviso = [&](const Testo& testo) { piattaforma.Messaggio(testo, Icona::Esclamazione, {}); };
   Applicazione applicazione(piattaforma, ditta);
   return applicazione.Avvia() ? QApplication::exec() : 0;

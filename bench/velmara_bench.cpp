@@ -4,15 +4,10 @@
 #include <functional>
 #include <stdexcept>
 
-#include "bench/ditta.h"
-#include "core/giorno.h"
+#include "bench/giornata.h"
 #include "core/numeri.h"
-#include "entry/edita.h"
 #include "lists/liste.h"
-#include "lists/ordina.h"
 #include "printing/registratore.h"
-#include "start/avvio.h"
-#include "start/inizio.h"
 #include "stats/controllo_cv.h"
 #include "stats/statistica.h"
 
@@ -52,24 +47,6 @@ class Cronometro {
   std::vector<double> millisecondi_;
 };
 
-// The program at the point where a day of so many rows has just been opened.
-struct Giornata {
-  Giornata(const Ditta& ditta, std::int64_t righe) : programma(macchina) {
-    ditta.Scrivi_Giorno(macchina, static_cast<int>(righe));
-    Avvia(programma, ditta.Cartella(), blocco, [] { return std::optional<PrimoAvvio>(); });
-    Carica_Inizio(programma, inizio);
-    Apri_Giorno(programma, inizio);
-    Apri_Edita(programma, edita);
-    edita.pronta = true;
-    programma.preferenze.FlagAutoSalvataggio = false;
-  }
-  Piattaforma_Muta macchina;
-  Programma programma;
-  Blocco_Cartella blocco;
-  B_Inizio inizio;
-  Edita edita;
-};
-
 using Opera = std::function<void(Giornata&)>;
 
 // An operation on the whole day.
@@ -82,23 +59,7 @@ void Sul_Giorno(benchmark::State& stato, const Ditta& ditta, const Opera& prepar
   }
 }
 
-void Salva(Giornata& giornata) {
-  bool errore = false;
-  Salva_Giorno(giornata.programma, errore);
-  if (errore) throw std::runtime_error("il giorno non si salva");
-}
-
-// An unchanged file isn't written.
-void Cambia_Riga(Giornata& giornata) {
-  Testo& commento = giornata.programma.Vet_Tabella(CampoRiga::Commento, 1);
-  commento = commento == "a" ? "b" : "a";
-}
-
 void In_Ordine_Di_Immissione(Giornata& giornata) { Ordina_Colonna(giornata.programma, CampoRiga::Num); }
-
-void Ordina_Per_Tre(Giornata& giornata) {
-  OrdinaTre(giornata.programma, CampoRiga::Fornitore, CampoRiga::Specie, CampoRiga::Cliente);
-}
 
 void Apri(Giornata& giornata) {
   Apri_Giorno(giornata.programma, giornata.inizio);
@@ -137,11 +98,7 @@ void Aggiunta(benchmark::State& stato, const Ditta& ditta) {
   int riga = 0;
   Cronometro cronometro(stato);
   for ([[maybe_unused]] auto turno : stato) {
-    const LedgerRow nuova = Riga_Inventata(programma, ++riga);
-    edita.attiva = false;
-    for (std::size_t campo = 0; campo < Num_Campi; ++campo) edita.Text1[campo].testo = nuova.campi[campo];
-    edita.attiva = true;
-    edita.Aggiungi.attivo = true;
+    Riempi_Campi(giornata, ++riga);
     cronometro.Misura([&] { Aggiungi(programma, edita); });
     if (programma.Vet_Tabella.Righe() != ++prima) stato.SkipWithError("la riga non è stata aggiunta");
   }
@@ -186,7 +143,7 @@ void Iscrivi_Tutte(const Ditta& ditta) {
   };
   const Sul_Giorno_Intero operazioni[] = {
       {"carica", {}, [](Giornata& giornata) { Carica_Giorno(giornata.programma); }},
-      {"salva", Cambia_Riga, Salva},
+      {"salva", Cambia_Riga, Salva_La_Giornata},
       {"ordina_per_tre", In_Ordine_Di_Immissione, Ordina_Per_Tre},
       {"apre_con_le_liste", {}, Apri},
       {"statistica", {}, Statistica_Del_Giorno},

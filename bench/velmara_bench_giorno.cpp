@@ -1,5 +1,6 @@
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <functional>
 #include <map>
 #include <string>
@@ -81,4 +82,7 @@ int main(int argc, char** argv) {
   getrusage(RUSAGE_SELF, &uso);
   std::printf("%d %.2f %.1f\n", programma.Vet_Tabella.Righe(), durata,
               static_cast<double>(uso.ru_maxrss) / 1024);
+  // The system takes back a process's memory at once; taking a million fields apart first is no part of the
+  // operation.
+  std::_Exit(std::fflush(stdout) == 0 ? 0 : 1);
 }

@@ -26,7 +26,7 @@ int main(int argc, char** argv) {
   programma.Cartella_Anno = programma.Cartella_Dati / "2025";
   RXFor schermo;
   Apri_RXFor(programma, schermo);
-  const auto nomi = File_Dell_Anno(programma);
+  const auto nomi = File_Dell_Anno(programma).value();
   if (nomi.empty()) {
     std::fprintf(stderr, "nessun giorno\n");
     return 1;

@@ -6,17 +6,17 @@
 #include <charconv>
 #include <csignal>
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 #include <utility>
 
+#include "core/cartelle.h"
+#include "core/memoria.h"
+
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr Vista barre = "/\\";
 
 // An open file that closes itself.
 class Descrittore {
@@ -42,34 +42,6 @@ Descrittore Apri(const Percorso& percorso, int modo) {
   return Descrittore(open(percorso.c_str(), modo | O_CLOEXEC | O_NOCTTY, diritti));
 }
 
-char Minuscola_ASCII(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
-
-bool Uguali_ASCII(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                    [](char x, char y) { return Minuscola_ASCII(x) == Minuscola_ASCII(y); });
-}
-
-// '*' is any characters, none too; '?' is exactly one.
-bool Corrisponde(Vista nome, Vista modello) {
-  std::size_t n = 0, m = 0, dopo_stella = Vista::npos, ripresa = 0;
-  while (n < nome.size()) {
-    if (m < modello.size() && modello[m] == '*') {
-      dopo_stella = ++m;
-      ripresa = n;
-    } else if (m < modello.size() &&
-               (modello[m] == '?' || Minuscola_ASCII(modello[m]) == Minuscola_ASCII(nome[n]))) {
-      ++m;
-      ++n;
-    } else if (dopo_stella != Vista::npos) {
-      m = dopo_stella;
-      n = ++ripresa;
-    } else {
-      return false;
-    }
-  }
-  return modello.find_first_not_of('*', m) == Vista::npos;
-}
-
 bool C_E(const Percorso& percorso) {
   struct stat stato {};
   return lstat(percorso.c_str(), &stato) == 0;
@@ -87,32 +59,6 @@ std::optional<struct stat> Stato(const Percorso& percorso, int* errore = nullptr
 Percorso Cartella_Di(const Percorso& percorso) {
   const Percorso cartella = percorso.parent_path();
   return cartella.empty() ? Percorso(".") : cartella;
-}
-
-Percorso Senza_Barra_Finale(const Percorso& percorso) {
-  return percorso.has_filename() || !percorso.has_relative_path() ? percorso : percorso.parent_path();
-}
-
-// The entry of a folder that has this name in another letter case; the first by name where there are several.
-std::optional<Percorso> Altra_Grafia(const Percorso& cartella, const Percorso& nome) {
-  std::optional<Percorso> trovata;
-  std::error_code errore;
-  for (fs::directory_iterator voce(cartella, errore), fine; !errore && voce != fine; voce.increment(errore)) {
-    Percorso candidata = voce->path().filename();
-    if (!Uguali_ASCII(candidata.native(), nome.native())) continue;
-    if (!trovata || candidata.native() < trovata->native()) trovata = std::move(candidata);
-  }
-  return trovata;
-}
-
-// Where a path stands whose folders, and maybe its last name, are spelled in another letter case.
-Percorso Cerca(const Percorso& richiesto) {
-  const Percorso percorso = Senza_Barra_Finale(richiesto);
-  if (C_E(percorso) || !percorso.has_filename()) return percorso;
-  const Percorso genitore = percorso.parent_path();
-  const Percorso cartella = genitore.empty() ? genitore : Cerca(genitore);
-  const auto nome = Altra_Grafia(cartella.empty() ? Percorso(".") : cartella, percorso.filename());
-  return cartella / nome.value_or(percorso.filename());
 }
 
 // The file that a chain of links leads to, there or not.
@@ -171,7 +117,10 @@ int Leggi_File(const Percorso& percorso, Testo& contenuto) {
   if (fstat(file.Numero(), &stato) != 0) return errno;
   if (const int errore = Errore_Di_Specie(stato.st_mode)) return errore;
   if (stato.st_size > dimensione_massima) return EFBIG;
-  contenuto.resize(static_cast<std::size_t>(stato.st_size) + 1);  // one more, so that the end shows at once
+  const std::size_t posto = static_cast<std::size_t>(stato.st_size) + 1;  // one more: the end shows at once
+  contenuto.reserve(posto);
+  Chiedi_Pagine_Grandi(contenuto.data(), posto);
+  contenuto.resize(posto);
   return Leggi_Tutto(file.Numero(), contenuto);
 }
 
@@ -228,6 +177,12 @@ class File_Provvisorio {
     if (fsync(numero_) != 0) return errno;
     return Esito(close(std::exchange(numero_, -1)));
   }
+  int Rileggi(Vista contenuto) const {
+    Testo riletto;
+    Dimentica();
+    if (const int errore = Leggi_File(percorso_, riletto)) return errore;
+    return riletto == contenuto ? 0 : EIO;
+  }
   int Metti_Al_Posto_Di(const Percorso& bersaglio, bool c_e) {
     scambiato_ = c_e && Scambia(bersaglio) == 0;
     if (scambiato_) return 0;
@@ -244,6 +199,11 @@ class File_Provvisorio {
   }
 
  private:
+  // What the machine remembers of the file goes, so that reading asks the disk. Only advice.
+  void Dimentica() const {
+    const Descrittore file = Apri(percorso_, O_RDONLY);
+    if (file.Aperto()) posix_fadvise(file.Numero(), 0, 0, POSIX_FADV_DONTNEED);
+  }
   int Scambia(const Percorso& bersaglio) const {
     return renameat2(AT_FDCWD, percorso_.c_str(), AT_FDCWD, bersaglio.c_str(), RENAME_EXCHANGE);
   }
@@ -291,7 +251,11 @@ int Guasto(const Disco& disco, const Percorso& chiesto, const Percorso& trovato)
   return trovato == chiesto ? 0 : disco.guasto(trovato);
 }
 
-int Sostituisci_File(const Percorso& bersaglio, Vista contenuto, const std::function<int()>& guasto) {
+// Whether a new file is read again before it takes its name.
+enum class Rilettura { No, Si };
+
+int Sostituisci_File(const Percorso& bersaglio, Vista contenuto, Rilettura rilettura,
+                     const std::function<int()>& guasto) {
   if (const int errore = guasto()) return errore;
   int ignoto = 0;
   const auto stato = Stato(bersaglio, &ignoto);
@@ -308,7 +272,10 @@ int Sostituisci_File(const Percorso& bersaglio, Vista contenuto, const std::func
       [&] { return nuovo.Errore(); },
       [&] { return stato ? nuovo.Come(*stato) : 0; },
       [&] { return nuovo.Scrivi(contenuto); },
-      [&] { return nuovo.Fissa(); },
+      [&] {
+        const int fissato = nuovo.Fissa();
+        return fissato == 0 && rilettura == Rilettura::Si ? nuovo.Rileggi(contenuto) : fissato;
+      },
       [&] { return nuovo.Metti_Al_Posto_Di(bersaglio, stato.has_value()); },
   };
   for (const auto& passo : passi) {
@@ -321,11 +288,22 @@ int Sostituisci_File(const Percorso& bersaglio, Vista contenuto, const std::func
   return errore;
 }
 
-int Aggiungi_In_Fondo(int descrittore, Vista contenuto) {
+int Metti(const Disco& disco, const Percorso& percorso, Vista contenuto, Rilettura rilettura) {
+  const Posto_Trovato posto = Cerca(percorso);
+  if (posto.errore != 0) return posto.errore;
+  return Sostituisci_File(Bersaglio(posto.percorso), contenuto, rilettura,
+                          [&] { return Guasto(disco, percorso, posto.percorso); });
+}
+
+int Accoda_In_Fondo(int descrittore, Vista contenuto) {
   struct stat stato {};
   if (fstat(descrittore, &stato) != 0) return errno;
   if (const int errore = Errore_Di_Specie(stato.st_mode)) return errore;
-  if (const int errore = Scrivi_Tutto(descrittore, contenuto)) return errore;
+  return Scrivi_Tutto(descrittore, contenuto);
+}
+
+int Aggiungi_In_Fondo(int descrittore, Vista contenuto) {
+  if (const int errore = Accoda_In_Fondo(descrittore, contenuto)) return errore;
   return Esito(fsync(descrittore));
 }
 
@@ -364,83 +342,68 @@ int Crea_Con_Genitori(const Percorso& cartella) {
   return Fissa_Cartella(Cartella_Di(cartella));
 }
 
-// The names in a folder that are wanted, sorted by name ignoring case.
-template <class Voluto>
-std::vector<Percorso> Nomi_In(const Percorso& cartella, const Voluto& voluto) {
-  std::vector<std::pair<Testo, Percorso>> trovati;
-  std::error_code errore;
-  for (fs::directory_iterator voce(cartella, errore), fine; !errore && voce != fine; voce.increment(errore)) {
-    Percorso nome = voce->path().filename();
-    Testo testo = Testo_Percorso(nome);
-    if (voluto(*voce, testo)) trovati.emplace_back(std::move(testo), std::move(nome));
-  }
-  std::sort(trovati.begin(), trovati.end(), [](const auto& a, const auto& b) {
-    const int ordine = Confronta(a.first, b.first);
-    return ordine != 0 ? ordine < 0 : a.second.native() < b.second.native();
-  });
-  std::vector<Percorso> nomi;
-  nomi.reserve(trovati.size());
-  for (auto& [testo, nome] : trovati) nomi.push_back(std::move(nome));
-  return nomi;
-}
-
 }  // namespace
 
-Percorso In_Percorso(Vista testo) { return Percorso(In_Utf8(testo)); }
-Testo Testo_Percorso(const Percorso& percorso) { return Da_Utf8(percorso.native()); }
-
-Percorso Unisci_Percorso(const Percorso& cartella, Vista nome) {
-  const Percorso secondo = In_Percorso(nome.substr(std::min(nome.find_first_not_of(barre), nome.size())));
-  if (cartella.empty()) return secondo;
-  std::string primo = cartella.native();
-  while (!primo.empty() && barre.find(primo.back()) != Vista::npos) primo.pop_back();
-  return Percorso(primo + '/' + secondo.native());
-}
-
-Testo Nome_File(const Percorso& percorso) {
-  const Testo testo = Testo_Percorso(percorso);
-  const std::size_t barra = testo.find_last_of(barre);
-  return barra == Testo::npos ? testo : testo.substr(barra + 1);
-}
-
 bool Disco::Esiste_File(const Percorso& percorso) const {
-  const auto stato = Stato(Cerca(percorso));
+  const auto stato = Stato(Cerca(percorso).percorso);
   return stato && S_ISREG(stato->st_mode);
 }
 
+bool Disco::Manca_File(const Percorso& percorso, int* errore) const {
+  const auto [trovato, ignoto] = Cerca(percorso);
+  int esito = ignoto;
+  const auto stato = esito == 0 ? Stato(trovato, &esito) : std::nullopt;
+  const bool manca = stato ? !S_ISREG(stato->st_mode) : esito == ENOENT || esito == ENOTDIR;
+  if (errore != nullptr) *errore = stato || manca ? 0 : esito;
+  return manca;
+}
+
 bool Disco::Esiste_Cartella(const Percorso& percorso) const {
-  const auto stato = Stato(Cerca(percorso));
+  const auto stato = Stato(Cerca(percorso).percorso);
   return stato && S_ISDIR(stato->st_mode);
 }
 
+bool Disco::E_Collegamento(const Percorso& percorso) const {
+  struct stat stato {};
+  return lstat(Cerca(percorso).percorso.c_str(), &stato) == 0 && S_ISLNK(stato.st_mode);
+}
+
 Percorso Disco::Trova(const Percorso& percorso) const {
-  const Percorso trovato = Cerca(percorso);
+  const Percorso trovato = Cerca(percorso).percorso;
   return C_E(trovato) ? trovato : percorso;
 }
 
 std::optional<Testo> Disco::Leggi(const Percorso& percorso, int* errore) const {
   Testo contenuto;
-  const int esito = Leggi_File(Cerca(percorso), contenuto);
+  const auto [trovato, ignoto] = Cerca(percorso);
+  const int esito = ignoto != 0 ? ignoto : Leggi_File(trovato, contenuto);
   if (errore != nullptr) *errore = esito;
   if (esito != 0) return std::nullopt;
   return contenuto;
 }
 
+std::optional<Testo> Disco::Leggi_Testo(const Percorso& percorso, int* errore) const {
+  auto contenuto = Leggi(percorso, errore);
+  if (contenuto) contenuto->erase(0, contenuto->size() - Senza_Marca(*contenuto).size());
+  return contenuto;
+}
+
 int Disco::Sostituisci(const Percorso& percorso, Vista contenuto) const {
-  const Percorso trovato = Cerca(percorso);
-  return Sostituisci_File(Bersaglio(trovato), contenuto, [&] { return Guasto(*this, percorso, trovato); });
+  return Metti(*this, percorso, contenuto, Rilettura::No);
 }
 
 int Disco::Scrivi_Nuovo(const Percorso& percorso, Vista contenuto) const {
-  const Percorso file = Cerca(Cartella_Di(percorso)) / percorso.filename();
+  const Posto_Trovato cartella = Cerca(Cartella_Di(percorso));
+  if (cartella.errore != 0) return cartella.errore;
+  const Percorso file = cartella.percorso / percorso.filename();
   if (C_E(file)) return EEXIST;
-  return Sostituisci_File(file, contenuto, [&] { return Guasto(*this, percorso, file); });
+  return Sostituisci_File(file, contenuto, Rilettura::No, [&] { return Guasto(*this, percorso, file); });
 }
 
 int Disco::Aggiungi(const Percorso& percorso, Vista contenuto) const {
   constexpr std::size_t sostituito_fino_a = std::size_t{1} << 20U;
-  const Percorso trovato = Cerca(percorso);
-  int ignoto = 0;
+  auto [trovato, ignoto] = Cerca(percorso);
+  if (ignoto != 0) return ignoto;
   const auto prima = Stato(trovato, &ignoto);
   if (!prima && ignoto != ENOENT) return ignoto;
   const std::size_t lunghezza = prima ? static_cast<std::size_t>(prima->st_size) : 0;
@@ -459,26 +422,41 @@ int Disco::Aggiungi(const Percorso& percorso, Vista contenuto) const {
   return errore;
 }
 
-int Disco::Sovrascrivi(const Percorso& percorso, Vista contenuto) const {
-  const Percorso trovato = Cerca(percorso);
+int Disco::Accoda_Provvisorio(const Percorso& percorso, Vista contenuto) const {
+  const auto [trovato, ignoto] = Cerca(percorso);
+  if (ignoto != 0) return ignoto;
   if (const int errore = Guasto(*this, percorso, trovato)) return errore;
-  return Lavora_Su(trovato, 0, contenuto, Scrivi_Sopra);
+  Descrittore file = Apri(trovato, O_WRONLY | O_CREAT | O_APPEND | O_NONBLOCK | O_NOFOLLOW);
+  if (!file.Aperto()) return errno;
+  if (const int errore = Accoda_In_Fondo(file.Numero(), contenuto)) return errore;
+  return file.Chiudi();
+}
+
+int Disco::Sovrascrivi(const Percorso& percorso, Vista contenuto) const {
+  const auto [trovato, ignoto] = Cerca(percorso);
+  if (ignoto != 0) return ignoto;
+  if (const int errore = Guasto(*this, percorso, trovato)) return errore;
+  // What a link leads to isn't this file, and would be gone for good.
+  return Lavora_Su(trovato, O_NOFOLLOW, contenuto, Scrivi_Sopra);
 }
 
 int Disco::Copia(const Percorso& da, const Percorso& a) const {
   int errore = 0;
   const auto contenuto = Leggi(da, &errore);
-  return contenuto ? Sostituisci(a, *contenuto) : errore;
+  return contenuto ? Metti(*this, a, *contenuto, Rilettura::Si) : errore;
 }
 
 int Disco::Cancella(const Percorso& percorso) const {
-  const Percorso trovato = Cerca(percorso);
+  const auto [trovato, ignoto] = Cerca(percorso);
+  if (ignoto != 0) return ignoto;
   if (const int errore = Guasto(*this, percorso, trovato)) return errore;
   return Esito(unlink(trovato.c_str()));
 }
 
 int Disco::Rinomina(const Percorso& da, const Percorso& a) const {
-  const Percorso origine = Cerca(da), presente = Cerca(a);
+  const auto [origine, ignota] = Cerca(da);
+  const auto [presente, ignoto] = Cerca(a);
+  if (ignota != 0 || ignoto != 0) return ignota != 0 ? ignota : ignoto;
   if (const int errore = Guasto(*this, da, origine)) return errore;
   if (const int errore = Guasto(*this, a, presente)) return errore;
   if (!C_E(origine)) return ENOENT;
@@ -494,7 +472,8 @@ int Disco::Rinomina(const Percorso& da, const Percorso& a) const {
 
 int Disco::Crea_Cartella(const Percorso& percorso) const {
   if (percorso.empty()) return ENOENT;
-  const Percorso trovato = Cerca(percorso);
+  const auto [trovato, ignoto] = Cerca(percorso);
+  if (ignoto != 0) return ignoto;
   if (Esiste_Cartella(trovato)) return 0;
   if (const int errore = Guasto(*this, percorso, trovato)) return errore;
   return Crea_Con_Genitori(trovato);
@@ -502,8 +481,9 @@ int Disco::Crea_Cartella(const Percorso& percorso) const {
 
 void Disco::Togli_Provvisori(const Percorso& cartella) const {
   const Testo modello = Testo(inizio_provvisorio) + "*" + fine_provvisorio;
-  const Percorso trovata = Cerca(cartella);
-  for (const Percorso& nome : Elenca(trovata, modello)) {
+  const Percorso trovata = Cerca(cartella).percorso;
+  // Those of a folder that can't be read stay, as they did no harm so far.
+  for (const Percorso& nome : Elenca(trovata, modello).value_or(std::vector<Percorso>())) {
     const char* cifre = nome.c_str() + inizio_provvisorio.size();
     pid_t processo = 0;
     const auto letto = std::from_chars(cifre, nome.c_str() + nome.native().size(), processo);
@@ -513,50 +493,28 @@ void Disco::Togli_Provvisori(const Percorso& cartella) const {
 }
 
 int Disco::Rendi_Eseguibile(const Percorso& percorso) const {
-  const Percorso file = Cerca(percorso);
+  const auto [file, ignoto] = Cerca(percorso);
+  if (ignoto != 0) return ignoto;
   const auto stato = Stato(file);
   if (!stato) return ENOENT;
   const mode_t lettura = stato->st_mode & 0444U;
   return Esito(chmod(file.c_str(), (stato->st_mode & 07777U) | (lettura >> 2U)));
 }
 
-std::vector<Percorso> Disco::Elenca(const Percorso& cartella, Vista modello) const {
-  return Nomi_In(Cerca(cartella), [modello](const fs::directory_entry& voce, Vista nome) {
-    std::error_code illeggibile;
-    return Corrisponde(nome, modello) && voce.is_regular_file(illeggibile);
-  });
+std::optional<std::vector<Percorso>> Disco::Elenca(const Percorso& cartella, Vista modello,
+                                                   int* errore) const {
+  return Nomi_In(
+      cartella, Specie_Voce::File, [modello](Vista nome) { return Corrisponde(nome, modello); }, errore);
+}
+
+std::optional<std::vector<Percorso>> Disco::Elenca_Cartelle(const Percorso& cartella, int* errore) const {
+  return Nomi_In(
+      cartella, Specie_Voce::Cartella, [](Vista) { return true; }, errore);
 }
 
 std::optional<fs::file_time_type> Disco::Cambiata(const Percorso& cartella) const {
   std::error_code errore;
-  const fs::file_time_type quando = fs::last_write_time(Cerca(cartella), errore);
+  const fs::file_time_type quando = fs::last_write_time(Cerca(cartella).percorso, errore);
   if (errore) return std::nullopt;
   return quando;
-}
-
-std::vector<Percorso> Disco::Elenca_Cartelle(const Percorso& cartella) const {
-  return Nomi_In(Cerca(cartella), [](const fs::directory_entry& voce, Vista) {
-    std::error_code illeggibile;
-    return voce.is_directory(illeggibile);
-  });
-}
-
-Testo Testo_Errore(int errore) { return Da_Utf8(std::generic_category().message(errore)); }
-
-Blocco_Cartella::~Blocco_Cartella() { Lascia(); }
-
-bool Blocco_Cartella::Prendi(const Percorso& cartella) {
-  Lascia();
-  descrittore_ = open(cartella.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (descrittore_ < 0) return true;
-  if (flock(descrittore_, LOCK_EX | LOCK_NB) == 0) return true;
-  const bool d_altri = errno == EWOULDBLOCK;
-  Lascia();
-  return !d_altri;
-}
-
-void Blocco_Cartella::Lascia() {
-  if (descrittore_ < 0) return;
-  close(descrittore_);
-  descrittore_ = -1;
 }

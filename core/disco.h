@@ -12,7 +12,8 @@ using Percorso = std::filesystem::path;
 // The one place where a text of the firm becomes a path, and back (for messages).
 Percorso In_Percorso(Vista testo);
 Testo Testo_Percorso(const Percorso& percorso);
-// `cartella` and `nome` joined with exactly one separator, whether or not the folder ends with one.
+// `cartella` and `nome` joined with exactly one separator, whether or not the folder ends with one. The
+// result lies in the folder whatever the name: a part ".." and a NUL become "-" ("--" and "-").
 Percorso Unisci_Percorso(const Percorso& cartella, Vista nome);
 Testo Nome_File(const Percorso& percorso);  // what stands behind the last separator, either slash
 
@@ -25,13 +26,20 @@ class Disco {
   std::function<int(const Percorso&)> guasto;
 
   bool Esiste_File(const Percorso& percorso) const;  // an existing regular file; false on any error
+  // No regular file, as the disk itself says. Who makes what is missing asks this: false where the disk
+  // doesn't answer, since it may hold it, and `errore` then says why.
+  bool Manca_File(const Percorso& percorso, int* errore = nullptr) const;
   bool Esiste_Cartella(const Percorso& percorso) const;
+  // Whether the name leads elsewhere. What is emptied or destroyed must stand in the firm's folder itself.
+  bool E_Collegamento(const Percorso& percorso) const;
   // Where the file or folder stands under another letter case of its last name; else the path as it is.
   Percorso Trova(const Percorso& percorso) const;
 
   // The whole file, or nothing when it is missing, no regular file, larger than a gigabyte, or can't be read;
   // `errore` then says why.
   std::optional<Testo> Leggi(const Percorso& percorso, int* errore = nullptr) const;
+  // The same of a text of the firm: without the UTF-8 mark that some editors put in front.
+  std::optional<Testo> Leggi_Testo(const Percorso& percorso, int* errore = nullptr) const;
 
   // Replaces the whole file: a sibling temporary file, written, flushed to disk, renamed over the target, the
   // folder flushed. The file is at any moment the last good one or the new one. A file that already holds
@@ -45,9 +53,15 @@ class Disco {
   // Appends, made if missing. Up to a megabyte in all the file is replaced as by Sostituisci; a larger one
   // grows in place and is cut back when that fails.
   int Aggiungi(const Percorso& percorso, Vista contenuto) const;
-  // In place, so that the old bytes are gone from the disk; made if missing.
+  // Appends to a file that counts only until the program is done with it: grows in place, without waiting for
+  // the disk.
+  int Accoda_Provvisorio(const Percorso& percorso, Vista contenuto) const;
+  // In place, so that the old bytes are gone from the disk; made if missing. A link is ELOOP: what it leads
+  // to stays.
   int Sovrascrivi(const Percorso& percorso, Vista contenuto) const;
-  int Copia(const Percorso& da, const Percorso& a) const;     // whole and atomic as Sostituisci
+  // Whole and atomic as Sostituisci. The new file is read again from the disk before it takes its name: EIO,
+  // and what stood there stays, where it isn't the same.
+  int Copia(const Percorso& da, const Percorso& a) const;
   int Cancella(const Percorso& percorso) const;               // a missing file is ENOENT
   int Rinomina(const Percorso& da, const Percorso& a) const;  // EEXIST when the target is there
   int Crea_Cartella(const Percorso& percorso) const;          // with every missing parent
@@ -56,15 +70,17 @@ class Disco {
   int Rendi_Eseguibile(const Percorso& percorso) const;  // by those who may read it
 
   // Names (without the folder) of the files of a folder that match a pattern of '*' and '?' ignoring case,
-  // sorted by name ignoring case.
-  std::vector<Percorso> Elenca(const Percorso& cartella, Vista modello) const;
+  // sorted by name ignoring case. A folder that isn't there has none. Nothing where it can't be read: what it
+  // holds isn't known then, and `errore` says why.
+  std::optional<std::vector<Percorso>> Elenca(const Percorso& cartella, Vista modello,
+                                              int* errore = nullptr) const;
+  // Names of the folders in a folder, in the same order and with the same answers.
+  std::optional<std::vector<Percorso>> Elenca_Cartelle(const Percorso& cartella, int* errore = nullptr) const;
   // When a name last came into a folder or left it; nothing where it can't be asked.
   std::optional<std::filesystem::file_time_type> Cambiata(const Percorso& cartella) const;
-  // Names of the folders in a folder, in the same order.
-  std::vector<Percorso> Elenca_Cartelle(const Percorso& cartella) const;
 };
 
-// The text that the machine has for an errno, as Windows-1252.
+// An errno in Italian; "errore 33" for one that no operator meets.
 Testo Testo_Errore(int errore);
 
 // One running program for one folder: a lock on the folder itself, which dies with the process, so that a

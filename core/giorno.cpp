@@ -6,11 +6,16 @@
 #include <limits>
 #include <string>
 
+#include "core/memoria.h"
 #include "core/numeri.h"
 
 namespace {
 
 constexpr int righe_massime = std::numeric_limits<std::int16_t>::max();  // row numbers are 16-bit integers
+
+// Place for what is keyed after the loading: moving a whole day elsewhere would hold up the key that adds a
+// row.
+constexpr std::size_t righe_in_piu = 1000;
 
 constexpr Vista intestazione_ncv = "Ultimo numero Conto Vendita,DDT, Nota Accredito, Fattura";
 // A new file's heading leaves the DDT out, though its number stands there: so the firms' files begin.
@@ -21,11 +26,6 @@ constexpr CampoRiga campi_decimali[] = {CampoRiga::Peso, CampoRiga::Prezzo, Camp
 
 Testo Errore_Durante(int errore, Vista che_cosa) {
   return Testo("Errore ").append(std::to_string(errore)).append(" durante ").append(che_cosa);
-}
-
-void Di_Errore_File(Programma& programma, int errore, Vista che_cosa, const Percorso& percorso) {
-  programma.piattaforma.Messaggio(Errore_Durante(errore, che_cosa) + "\n" + Testo_Percorso(percorso) + "\n" +
-                                  Testo_Errore(errore));
 }
 
 void Di_Errore_Salvataggio(Programma& programma, int errore) {
@@ -47,7 +47,7 @@ int Scrivi_Numeri(const Programma& programma, Vista intestazione) {
 
 // The .dat copy on which a trial day works.
 int Prepara_Copia(const Programma& programma, const Percorso& giorno, const Percorso& copia) {
-  if (programma.disco.Esiste_File(giorno)) return programma.disco.Copia(giorno, copia);
+  if (!programma.disco.Manca_File(giorno)) return programma.disco.Copia(giorno, copia);
   return programma.disco.Sostituisci(copia, "0001\tFornitore\t\r\n");
 }
 
@@ -55,11 +55,6 @@ void Apri_Tabella(Programma& programma, Tabella tabella) {
   programma.Vet_Tabella = std::move(tabella);
   programma.Tabella_Modificata = false;
   programma.Colonna_Ordine = 1;
-}
-
-// Nearly every byte of a day is a letter or a digit: one comparison passes it.
-constexpr bool Fine_Campo(char c) {
-  return static_cast<unsigned char>(c) <= '\r' && (c == TAB || c == '\r' || c == '\n');
 }
 
 // Reads a day's bytes once from front to back.
@@ -73,7 +68,7 @@ class Lettore_Righe {
   void Leggi(LedgerRow& riga) {
     for (Testo& campo : riga.campi)
       if (!Leggi_Campo(campo)) break;
-    qui_ = std::find_if(qui_, fine_, [](char c) { return c == '\r' || c == '\n'; });
+    while (qui_ != fine_ && *qui_ != '\r' && *qui_ != '\n') ++qui_;
     Salta_Fine_Riga();
     for (const CampoRiga campo : campi_decimali) Correggi(riga[campo]);
   }
@@ -82,14 +77,16 @@ class Lettore_Righe {
   // False when it was the last of its line, which isn't trimmed.
   bool Leggi_Campo(Testo& campo) {
     const char* inizio = qui_;
-    while (qui_ != fine_ && !Fine_Campo(*qui_)) ++qui_;
+    qui_ = Trova_Fine_Campo(qui_, fine_);
     const Vista letto(inizio, static_cast<std::size_t>(qui_ - inizio));
     if (qui_ == fine_ || *qui_ != TAB) {
       campo.assign(letto);
       return false;
     }
     ++qui_;
-    if (!letto.empty()) campo.assign(Pulito(letto));
+    if (letto.empty()) return true;
+    // hardly any has blanks around it
+    campo.assign(letto.front() == ' ' || letto.back() == ' ' ? Pulito(letto) : letto);
     return true;
   }
 
@@ -121,31 +118,47 @@ bool Solo_Cifre(Vista testo) {
   return !testo.empty() && testo.find_first_not_of("0123456789") == Vista::npos;
 }
 
-// Deletes the .dat files of a folder; the error of the last one that stays, 0 without one.
+// Overwrites and deletes the .dat files of a folder; the error of the last one that stays or lies there
+// still, or of the folder, 0 without one.
 int Cancella_Dat_In(const Programma& programma, const Percorso& cartella, Percorso& rimasto) {
-  for (const Percorso& nome : programma.disco.Elenca(cartella, "*.dat")) {
-    programma.disco.Sovrascrivi(cartella / nome, "file temporaneo da cancellare\r\n");
-    programma.disco.Cancella(cartella / nome);
-  }
+  rimasto = cartella;
+  if (programma.disco.E_Collegamento(cartella)) return ELOOP;
+  const Disco& disco = programma.disco;
   int errore = 0;
-  for (const Percorso& nome : programma.disco.Elenca(cartella, "*.dat")) {
-    const int esito = programma.disco.Cancella(cartella / nome);
-    if (esito == 0) continue;
+  const auto annota = [&](int esito, const Percorso& nome) {
+    if (esito == 0) return;
     errore = esito;
     rimasto = cartella / nome;
+  };
+  const auto prima = disco.Elenca(cartella, "*.dat", &errore);
+  if (!prima) return errore;
+  for (const Percorso& nome : *prima) {
+    // A file that goes without having been overwritten may still be read from the disk.
+    annota(disco.Sovrascrivi(cartella / nome, "file temporaneo da cancellare\r\n"), nome);
+    disco.Cancella(cartella / nome);
   }
+  int ignoto = 0;
+  const auto rimasti = disco.Elenca(cartella, "*.dat", &ignoto);
+  if (!rimasti) return ignoto;
+  for (const Percorso& nome : *rimasti) annota(disco.Cancella(cartella / nome), nome);
   return errore;
 }
 
 }  // namespace
+
+void Di_Errore_File(const Programma& programma, int errore, Vista che_cosa, const Percorso& percorso) {
+  programma.piattaforma.Messaggio(Errore_Durante(errore, che_cosa) + "\n" + Testo_Percorso(percorso) + "\n" +
+                                  Testo_Errore(errore));
+}
 
 void Scegli_File_Giorno(Programma& programma) {
   const Percorso giorno = Unisci_Percorso(programma.Cartella_Anno, programma.Data_AAAAMMGG + ".txt");
   programma.File_Giorno = giorno;
   if (!programma.Modo_Dat) return;
   programma.File_Giorno = Unisci_Percorso(programma.Cartella_Anno, programma.Data_AAAAMMGG + ".dat");
-  if (programma.disco.Esiste_File(programma.File_Giorno)) return;
-  const int errore = Prepara_Copia(programma, giorno, programma.File_Giorno);
+  int ignoto = 0;
+  const bool manca = programma.disco.Manca_File(programma.File_Giorno, &ignoto);
+  const int errore = manca ? Prepara_Copia(programma, giorno, programma.File_Giorno) : ignoto;
   if (errore != 0) Di_Errore_File(programma, errore, "la copia", programma.File_Giorno);
 }
 
@@ -156,7 +169,7 @@ bool Carica_Giorno(Programma& programma) {
     Di_Errore_File(programma, errore, "la lettura", programma.File_Giorno);
     return false;
   }
-  Tabella tabella = Leggi_Tabella(contenuto.value_or(Testo()), programma.Separatore_Decimale);
+  Tabella tabella = Leggi_Tabella(contenuto ? Vista(*contenuto) : Vista(), programma.Separatore_Decimale);
   if (tabella.righe.size() > static_cast<std::size_t>(righe_massime)) {
     programma.piattaforma.Messaggio(
         "Il giorno ha " + std::to_string(tabella.righe.size()) + " righe, se ne possono aprire al massimo " +
@@ -184,7 +197,7 @@ void Leggi_Ultimi_Numeri(Programma& programma) {
   for (std::int32_t* numero : numeri) *numero = 0;
   programma.Numeri_Ignoti = false;
   int errore = 0;
-  const auto contenuto = programma.disco.Leggi(File_Numeri(programma), &errore);
+  const auto contenuto = programma.disco.Leggi_Testo(File_Numeri(programma), &errore);
   if (errore == ENOENT) {
     if (const int scritto = Scrivi_Numeri(programma, intestazione_ncv_nuova))
       Di_Errore_Salvataggio(programma, scritto);
@@ -267,7 +280,8 @@ Tabella Leggi_Tabella(Vista contenuto, char separatore) {
   contenuto = Senza_Marca(contenuto);
   Tabella tabella;
   tabella.righe.clear();
-  tabella.righe.reserve(std::max<std::size_t>(Conta(contenuto, '\n'), 1) + 1);
+  tabella.righe.reserve(Conta(contenuto, '\n') + righe_in_piu);
+  Chiedi_Pagine_Grandi(tabella.righe.data(), tabella.righe.capacity() * sizeof(LedgerRow));
   for (Lettore_Righe lettore(contenuto, separatore); !lettore.Finito();)
     lettore.Leggi(tabella.righe.emplace_back());
   if (tabella.righe.empty()) tabella.righe.push_back(Riga_Segnaposto());

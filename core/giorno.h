@@ -28,6 +28,9 @@ Percorso Cartella_Fatture(Programma& programma);
 // After a question, overwrites and deletes the .dat files of the year `anno`; Modo_Dat goes off in any case.
 void Cancella_File_Dat(Programma& programma, Vista anno);
 
+// "Errore <n> durante <che_cosa>", the path, and the error in words.
+void Di_Errore_File(const Programma& programma, int errore, Vista che_cosa, const Percorso& percorso);
+
 // Makes a folder with its parents; on failure shows number, path and text of the error and gives false.
 bool Crea_Cartella(Programma& programma, const Percorso& cartella);
 

@@ -7,8 +7,6 @@
 
 namespace {
 
-constexpr Vista MARCA_UTF8 = "\xEF\xBB\xBF";  // some editors put it in front of a file
-
 // A line of the file with its own end, so that what isn't ours goes back as it came.
 struct Riga_File {
   Testo testo;
@@ -58,9 +56,9 @@ std::optional<Testo> Nome_Chiave(Vista leggibile) {
 }  // namespace
 
 Valori_Ini Leggi_Ini(Vista contenuto, Vista sezione) {
-  if (contenuto.starts_with(MARCA_UTF8)) contenuto.remove_prefix(MARCA_UTF8.size());
   Testo leggibile;
-  for (const Riga_File& riga : Righe_Con_Fine(contenuto)) leggibile += Leggibile(riga.testo) + "\n";
+  for (const Riga_File& riga : Righe_Con_Fine(Senza_Marca(contenuto)))
+    leggibile += Leggibile(riga.testo) + "\n";
 
   CSimpleIniA ini;
   ini.SetMultiKey(true);  // else the last of two equal keys would count
@@ -77,14 +75,11 @@ Valori_Ini Leggi_Ini(Vista contenuto, Vista sezione) {
 // The library's own writer would drop lines that are no keys and lay the whole file out anew, so the lines
 // that change are changed in place.
 Testo Scrivi_Ini(Vista contenuto, Vista sezione, const std::vector<std::pair<Testo, Testo>>& chiavi) {
-  Testo esito;
-  if (contenuto.starts_with(MARCA_UTF8)) {
-    esito = MARCA_UTF8;
-    contenuto.remove_prefix(MARCA_UTF8.size());
-  }
-  auto righe = Righe_Con_Fine(contenuto);
+  const Vista senza_marca = Senza_Marca(contenuto);
+  Testo esito(contenuto.substr(0, contenuto.size() - senza_marca.size()));
+  auto righe = Righe_Con_Fine(senza_marca);
 
-  std::map<Testo, std::size_t, Ordine_Chiavi> trovate;  // the first line of each key of the section
+  std::map<Testo, std::size_t, Ordine_Ini> trovate;  // the first line of each key of the section
   std::optional<std::size_t> ultima;  // last line that isn't blank of the section's first piece
   bool dentro = false, finita = false;
   for (std::size_t i = 0; i < righe.size(); ++i) {

@@ -10,11 +10,11 @@
 // are comments. Names of sections and keys are compared ignoring case. Any bytes in: what is no section and
 // no key is passed over. Values are Windows-1252 as they stand, without the blanks around them.
 
-struct Ordine_Chiavi {
+struct Ordine_Ini {
   using is_transparent = void;
   bool operator()(Vista a, Vista b) const { return Confronta(a, b) < 0; }
 };
-using Valori_Ini = std::map<Testo, Testo, Ordine_Chiavi>;
+using Valori_Ini = std::map<Testo, Testo, Ordine_Ini>;
 
 // The values of one section, which may stand in several pieces. Of a key that stands twice the first counts,
 // as for the machine's classic reader.

@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 
 namespace {
@@ -40,8 +41,34 @@ char Separatore_Di(Vista testo, char separatore) {
   return solo_altro ? altro : separatore;
 }
 
+// In so many characters the digits are a whole number that a double holds exactly, and so is the power of ten
+// by which the separator divides it: their quotient is the double nearest to the text.
+constexpr std::size_t caratteri_esatti = 15;
+constexpr auto potenze_di_dieci = [] {
+  std::array<double, caratteri_esatti + 1> potenze{1};
+  for (std::size_t i = 1; i < potenze.size(); ++i) potenze[i] = potenze[i - 1] * 10;
+  return potenze;
+}();
+
+double Converti_Corto(Vista numero, char separatore) {
+  std::int64_t cifre = 0;
+  std::size_t decimali = 0;
+  bool separato = false;
+  for (const char c : numero) {
+    if (c == separatore) {
+      separato = true;
+    } else if (Cifra(c)) {
+      cifre = cifre * 10 + (c - '0');
+      if (separato) ++decimali;
+    }
+  }
+  const double valore = static_cast<double>(cifre) / potenze_di_dieci[decimali];
+  return numero.front() == '-' && cifre != 0 ? -valore : valore;  // "-0" is 0
+}
+
 // A text that Misura has found to be a number. One too long for a double is the largest double.
 double Converti(Vista numero, char separatore) {
+  if (numero.size() <= caratteri_esatti) return Converti_Corto(numero, separatore);
   Testo testo(numero.front() == '+' ? numero.substr(1) : numero);
   std::replace(testo.begin(), testo.end(), separatore, '.');
   double valore = 0;

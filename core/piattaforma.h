@@ -38,7 +38,10 @@ class Piattaforma {
   virtual std::optional<Testo> Chiedi(const Testo& testo, const Testo& titolo = {},
                                       const Testo& proposta = {}) = 0;
 
-  virtual void Ridipingi() = 0;              // lets the screen repaint; may do nothing when it just did
+  virtual void Ridipingi() = 0;  // lets the screen repaint; may do nothing when it just did
+  // Between two units of a long work: lets the screen repaint, and says whether the operator has pressed Esc
+  // to stop it. What else he keyed or clicked meanwhile reaches nobody.
+  virtual bool Vuole_Fermare() = 0;
   virtual void Attendi(double secondi) = 0;  // waits while the screen repaints
   virtual void Occupato(bool si) = 0;        // the busy pointer
   virtual Data Oggi() = 0;

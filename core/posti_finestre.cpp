@@ -29,7 +29,7 @@ std::optional<Posto_Finestra> Leggi_Posto(Vista riga) {
 Posti_Finestre::Posti_Finestre(const Disco& disco, const Percorso& cartella)
     : disco_(disco), file_(Unisci_Percorso(cartella, nome_file)) {
   int errore = 0;
-  const auto contenuto = disco_.Leggi(file_, &errore);
+  const auto contenuto = disco_.Leggi_Testo(file_, &errore);
   ignoti_ = !contenuto && errore != ENOENT;
   if (!contenuto) return;
   for (Vista riga : Righe(*contenuto)) {

@@ -97,6 +97,8 @@ bool Uguali_In(Vista testo, std::size_t posizione, Vista parte) {
 
 }  // namespace
 
+constinit const std::array<char, 256> testo_interno::minuscole = piegature.minuscole;
+
 Testo Da_Utf8(std::string_view utf8) {
   Testo testo;
   testo.reserve(utf8.size());
@@ -114,7 +116,6 @@ std::string In_Utf8(Vista testo) {
   return utf8;
 }
 
-char Minuscola(char c) { return piegature.minuscole[Byte(c)]; }
 char Maiuscola(char c) { return piegature.maiuscole[Byte(c)]; }
 
 Testo Minuscolo(Vista testo) {

@@ -1,7 +1,11 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
+#include <bit>
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,6 +24,8 @@ inline constexpr char16_t alti[32] = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x
                                       0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
                                       0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                       0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+extern const std::array<char, 256> minuscole;  // of each byte
 
 constexpr char Da_Codice(char32_t codice) {
   if (codice < 0x80 || (codice >= 0xA0 && codice <= 0xFF)) return static_cast<char>(codice);
@@ -69,7 +75,8 @@ constexpr Testo operator""_t() {
 Testo Da_Utf8(std::string_view utf8);
 std::string In_Utf8(Vista testo);
 
-char Minuscola(char c);  // À -> à, Š -> š; by one table for the whole code page, no locale
+// À -> à, Š -> š; by one table for the whole code page, no locale
+inline char Minuscola(char c) { return testo_interno::minuscole[static_cast<unsigned char>(c)]; }
 char Maiuscola(char c);  // ÿ -> Ÿ; ß and other letters without a capital stay
 Testo Minuscolo(Vista testo);
 Testo Maiuscolo(Vista testo);
@@ -109,4 +116,26 @@ Vista Prossimo_Campo(Vista& riga);
 Vista Ultimo_Campo(Vista& riga);
 
 inline constexpr char TAB = '\t';
+constexpr bool Fine_Campo(char c) { return c == TAB || c == '\r' || c == '\n'; }
+// The first of these in a text that ends at `fine`, or `fine`. Eight bytes are passed at once while none is a
+// control character, as nearly all of a day file are.
+inline const char* Trova_Fine_Campo(const char* qui, const char* fine) {
+  constexpr std::uint64_t in_ognuno = 0x0101010101010101, alto = in_ognuno << 7U, oltre = '\r' + 1;
+  std::uint64_t otto = 0;
+  while (static_cast<std::size_t>(fine - qui) >= sizeof otto) {
+    std::memcpy(&otto, qui, sizeof otto);
+    const std::uint64_t comandi =
+        (otto - in_ognuno * oltre) & ~otto & alto;  // 80 where a byte is below `oltre`
+    const char* dopo = qui + sizeof otto;
+    if (comandi == 0) {
+      qui = dopo;
+      continue;
+    }
+    if constexpr (std::endian::native == std::endian::little) qui += std::countr_zero(comandi) / 8;
+    for (; qui != dopo; ++qui)
+      if (Fine_Campo(*qui)) return qui;
+  }
+  while (qui != fine && !Fine_Campo(*qui)) ++qui;
+  return qui;
+}
 inline constexpr Vista FINE_RIGA = "\r\n";  // every text file of the firm

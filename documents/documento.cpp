@@ -35,9 +35,6 @@ bool Segnaposto(const LedgerRow& riga) { return Uguali(riga[CampoRiga::Fornitore
 
 bool Stesso_Cliente(Vista a, Vista b) { return Uguali(Pulito(a), Pulito(b)); }
 
-// Labels of catch zones begin with a capital A; "acquacoltura" in small letters is no catch.
-bool Zona_Di_Cattura(Vista zona) { return zona.starts_with('A'); }
-
 Vista Codice_Zona(Vista etichetta) { return Pulito(etichetta.substr(0, etichetta.find('-'))); }
 
 // What the zone list says of the label's code, the label itself when the code isn't there.

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <vector>
 
 #include "documents/documento.h"
+#include "printing/pagina.h"
 
 // The pages of one customer's document: first as values, what stands where, then drawn. Positions are
 // millimetres from the corner of the sheet's printable part, and the top of a line of text.
@@ -49,9 +49,6 @@ Pagine_Documento LayoutVecchio(const Documento_Cliente& documento, const Foglio_
 // The one of the three that the document was made for.
 Pagine_Documento PagineDocumento(const Documento_Cliente& documento, const Foglio_Documento& foglio,
                                  char separatore);
-
-// Takes the progress text for the caption of the screen that prints, before each page.
-using Avanzamento = std::function<void(const Testo& titolo)>;
 
 // Draws the document as one print job. False where nothing came out (no printer, a full disk), which the
 // device has told.

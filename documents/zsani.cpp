@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/corsa.h"
 #include "core/giorno.h"
 #include "core/impegno.h"
 #include "core/numeri.h"
@@ -211,7 +212,7 @@ std::vector<LedgerRow> Righe_Del_Cliente(Zsani& zsani, Vista cliente, Vista nume
 }
 
 // False when the paper failed. A customer without an entry in the list is told, and the run goes on.
-bool Stampa_Documento(Programma& programma, Zsani& zsani, std::size_t i, const Testo& numero) {
+bool Stampa_Documento(Programma& programma, Zsani& zsani, Corsa& corsa, std::size_t i, const Testo& numero) {
   VoceDoc& voce = zsani.ListaDoc[i];
   if (Cerca_Cliente_Per_Nome(programma, voce.Cliente) < 0) {
     programma.piattaforma.Messaggio("Il cliente " + voce.Cliente + " non è stato trovato..."_t);
@@ -227,28 +228,34 @@ bool Stampa_Documento(Programma& programma, Zsani& zsani, std::size_t i, const T
   }
   if (!zsani.stampa(*documento, [&](const Testo& titolo) { zsani.titolo = titolo; })) return false;
   voce.Numero = ConMarchio(voce.Numero, tipo);
+  corsa.Fatta();
   return true;
 }
 
-bool Stampa_Tutti(Programma& programma, Zsani& zsani) {
-  for (std::size_t i = 0; i < zsani.ListaDoc.size(); ++i) {
+bool Stampa_Tutti(Programma& programma, Zsani& zsani, Corsa& corsa) {
+  for (std::size_t i = 0; i < zsani.ListaDoc.size() && corsa.Avanti(); ++i) {
     const Testo numero(Pulito(zsani.ListaDoc[i].Numero));
     if (numero.empty() &&
         !programma.piattaforma.Domanda("Non tutti i Documenti sono numerati... OK per continuare ugualmente"))
       return false;
-    if (!Stampa_Documento(programma, zsani, i, numero)) return false;
+    if (!Stampa_Documento(programma, zsani, corsa, i, numero)) return false;
   }
   return true;
 }
 
-// All copies that were asked for; false when the operator or the paper stopped it.
-bool Stampa_Copie(Programma& programma, Zsani& zsani) {
-  const int copie = std::max(1, zsani.Combo2.scelta + 1);
-  for (int copia = 0; copia < copie; ++copia) {
-    const bool avanti = zsani.Check1.segnata ? Stampa_Tutti(programma, zsani)
-                                             : Stampa_Documento(programma, zsani,
-                                                                static_cast<std::size_t>(zsani.MList2.scelta),
-                                                                Testo(Pulito(zsani.Text1[2].testo)));
+bool Stampa_Scelto(Programma& programma, Zsani& zsani, Corsa& corsa) {
+  return !corsa.Avanti() ||
+         Stampa_Documento(programma, zsani, corsa, static_cast<std::size_t>(zsani.MList2.scelta),
+                          Testo(Pulito(zsani.Text1[2].testo)));
+}
+
+int Copie(const Zsani& zsani) { return std::max(1, zsani.Combo2.scelta + 1); }
+
+// All copies that were asked for, or those until Esc; false when a question or the paper ended it.
+bool Stampa_Copie(Programma& programma, Zsani& zsani, Corsa& corsa) {
+  for (int copia = 0; copia < Copie(zsani) && !corsa.Fermata(); ++copia) {
+    const bool avanti =
+        zsani.Check1.segnata ? Stampa_Tutti(programma, zsani, corsa) : Stampa_Scelto(programma, zsani, corsa);
     if (!avanti) return false;
   }
   return true;
@@ -456,12 +463,16 @@ void StampaDocumenti(Programma& programma, Zsani& zsani) {
   }
   bool finita = false;
   const Testo titolo = zsani.titolo;
+  Corsa corsa(programma.piattaforma, zsani.Check1.segnata ? zsani.ListaDoc.size() : 1, Copie(zsani));
   {
     const Clessidra clessidra(programma.piattaforma);
-    finita = Stampa_Copie(programma, zsani);
+    finita = Stampa_Copie(programma, zsani, corsa);
   }
   zsani.titolo = titolo;
   Mostra_Lista(zsani, zsani.MList2.scelta);
+  if (corsa.Fermata())
+    programma.piattaforma.Messaggio(corsa.Testo_Fermata({"Stampa interrotta", "documento", "documenti"}),
+                                    Icona::Informazione);
   if (finita && zsani.modo != ModoDocumenti::Tutti) Chiudi(programma, zsani);
 }
 

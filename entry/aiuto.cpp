@@ -1,5 +1,7 @@
 #include "entry/aiuto.h"
 
+#include "lists/aiuto_esportazione.h"
+
 namespace {
 
 // Some of these sentences stand in the firms' own instructions word for word, slips of the pen included, so
@@ -117,15 +119,8 @@ Testo Aiuto_Prezzo_Cassa() {
 }
 
 Testo Aiuto_Export() {
-  return "Il file da trasmettere alla Veritas (per eleborare le statistiche):\n"
-         "viene salvato nella cartella:\n"
-         "\\xVeritas\n"
-         "è presente solo l'ultimo file creato, tutti gli altri file \n"_t
-         "eventualmente presenti vengono cancellati\n"
-         "Il separatore di campo è ; (punto e virgola) e non può essere cambiato.\n"_t
-         "Se si sceglie una destinazione diversa (per esempio una chiavetta USB)\n"
-         "il file viene salvato nella radice del disco (per esempio d:\\ )\n"
-         "\n"
+  return Aiuto_Esportazione() +
+         "\n\n"
          "Formato esteso con:\n"
          "Attrezzo Pesca, Pezzatura, Stato Fisico, Lavorazione e Preparazione.";
 }

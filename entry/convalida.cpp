@@ -220,16 +220,18 @@ void ConvertiCassa(const Programma& programma, Edita& edita) {
 
 void NumeroDocumento(const Programma& programma, Edita& edita, Vista codice) {
   const char separatore = programma.Separatore_Decimale;
-  const Vista cercato = Pulito(codice);
-  const LedgerRow* prima = nullptr;
-  int massimo = 0;
-  for (const LedgerRow& riga : programma.Vet_Tabella.righe) {
-    if (prima == nullptr && Uguali(Pulito(riga[CampoRiga::CodCliente]), cercato)) prima = &riga;
-    massimo = std::max(massimo, Intero(riga[CampoRiga::DDT], separatore));
-  }
+  const auto& righe = programma.Vet_Tabella.righe;
   Testo& ddt = Campo(edita, CampoRiga::DDT).testo;
-  const bool ha_numero = prima != nullptr && Valore((*prima)[CampoRiga::DDT], separatore) != 0;
-  ddt = ha_numero ? (*prima)[CampoRiga::DDT] : Formato(static_cast<double>(massimo) + 1, "000", separatore);
+  const auto prima = std::ranges::find_if(righe, [cercato = Pulito(codice)](const LedgerRow& riga) {
+    return Uguali(Pulito(riga[CampoRiga::CodCliente]), cercato);
+  });
+  if (prima != righe.end() && Valore((*prima)[CampoRiga::DDT], separatore) != 0) {
+    ddt = (*prima)[CampoRiga::DDT];
+    return;
+  }
+  int massimo = 0;
+  for (const LedgerRow& riga : righe) massimo = std::max(massimo, Intero(riga[CampoRiga::DDT], separatore));
+  ddt = Formato(static_cast<double>(massimo) + 1, "000", separatore);
 }
 
 void CercaNCV(const Programma& programma, Edita& edita) {

@@ -112,13 +112,17 @@ void Esegui(Programma& programma, Edita& edita, Elenco_Macro& elenco, const Test
 void Leggi_ElencoMacro(Programma& programma, Elenco_Macro& elenco) {
   const Percorso cartella = Cartella_Macro(programma, elenco.tipo);
   elenco.tabella.clear();
-  for (const Percorso& nome : programma.disco.Elenca(cartella, "*.txt")) {
+  int errore = 0;
+  const auto nomi = programma.disco.Elenca(cartella, "*.txt", &errore);
+  if (!nomi)
+    Mostra_Guasti(programma, {{errore, cartella}});  // the list stays empty, the macros where they are
+  for (const Percorso& nome : nomi.value_or(std::vector<Percorso>())) {
     const Testo testo = Testo_Percorso(nome);
     const Vista codice = Vista(testo).substr(0, testo.size() - estensione.size());
     // a name from elsewhere that no code can call, also one outside the code page, would only make a line
     // that does nothing
     if (Pulito(codice) != codice || !Codice_Macro_Lecito(codice)) continue;
-    const auto contenuto = programma.disco.Leggi(File_Macro(programma, elenco.tipo, codice));
+    const auto contenuto = programma.disco.Leggi_Testo(File_Macro(programma, elenco.tipo, codice));
     elenco.tabella.push_back(Riga_Letta(elenco.tipo, codice, contenuto.value_or(Testo())));
   }
   MostraTabella(elenco);

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 
+#include "core/corsa.h"
 #include "core/impegno.h"
 #include "core/numeri.h"
 #include "core/profili.h"
 #include "entry/pagina_etichetta.h"
+#include "lists/liste.h"
 #include "printing/pagina.h"
 
 namespace {
@@ -20,9 +22,6 @@ bool Stampa_Tutte(const Programma& programma, const Edita& edita) {
          std::ranges::find(con_tutte, Profilo_Ditta(programma.preferenze.Codice_Commissionario)) !=
              std::end(con_tutte);
 }
-
-// The zones of the sea begin with this letter, those of fresh water and farms with others.
-bool Zona_Di_Cattura(Vista zona) { return zona.starts_with('A'); }
 
 // The blank behind "con" stands before the treatment as it was keyed behind the minus.
 Testo Trattamento(Vista commento) {
@@ -51,26 +50,44 @@ void Stampa_Una(Programma& programma, Edita& edita, int numero, int quante) {
   edita.titolo = titolo;
 }
 
+// 0 where the comment doesn't begin with a number.
+double Prezzo_Etichetta(Vista commento, char separatore) {
+  return Valore(commento.substr(0, commento.find('-')), separatore);
+}
+
 bool Ha_Prezzo(const Programma& programma, const LedgerRow& riga) {
   return Prezzo_Etichetta(riga[CampoRiga::Commento], programma.Separatore_Decimale) > 0;
 }
 
-void Stampa_Il_Giorno(Programma& programma, Edita& edita) {
+// False once the operator has stopped the run.
+bool Stampa_La_Prossima(Programma& programma, Edita& edita, Corsa& corsa, int numero, int quante) {
+  if (!corsa.Avanti()) return false;
+  Stampa_Una(programma, edita, numero, quante);
+  corsa.Fatta();
+  return true;
+}
+
+void Stampa_Il_Giorno(Programma& programma, Edita& edita, Corsa& corsa, int quante) {
   const Clessidra clessidra(programma.piattaforma);
-  const auto quante = static_cast<int>(std::ranges::count_if(
-      programma.Vet_Tabella.righe, [&](const LedgerRow& riga) { return Ha_Prezzo(programma, riga); }));
   int numero = 0;
   for (int n = 1; n <= programma.Vet_Tabella.Righe(); ++n) {
     VaiRiga(programma, edita, n);
-    if (Ha_Prezzo(programma, Riga_Nei_Campi(edita))) Stampa_Una(programma, edita, ++numero, quante);
+    if (!Ha_Prezzo(programma, Riga_Nei_Campi(edita))) continue;
+    if (!Stampa_La_Prossima(programma, edita, corsa, ++numero, quante)) return;
   }
 }
 
-}  // namespace
-
-double Prezzo_Etichetta(Vista commento, char separatore) {
-  return Valore(commento.substr(0, commento.find('-')), separatore);
+void Stampa_Tutto_Il_Giorno(Programma& programma, Edita& edita) {
+  const auto quante = std::ranges::count_if(
+      programma.Vet_Tabella.righe, [&](const LedgerRow& riga) { return Ha_Prezzo(programma, riga); });
+  Corsa corsa(programma.piattaforma, static_cast<std::size_t>(quante));
+  Stampa_Il_Giorno(programma, edita, corsa, static_cast<int>(quante));
+  if (corsa.Fermata())
+    programma.piattaforma.Messaggio(corsa.Testo_Fermata({"Stampa interrotta", "etichetta", "etichette"}),
+                                    Icona::Informazione);
 }
+
+}  // namespace
 
 Contenuto_Etichetta Componi_Etichetta(const LedgerRow& riga, char separatore) {
   const bool pescato = Zona_Di_Cattura(riga[CampoRiga::ZonaP]);
@@ -108,7 +125,7 @@ void Etichette(Programma& programma, Edita& edita) {
   const Schermo_Fermo fermo(edita);
   if (Stampa_Tutte(programma, edita) &&
       programma.piattaforma.Domanda("OK per stampare tutte le etichette con il prezzo di acquisto..."))
-    return Stampa_Il_Giorno(programma, edita);
+    return Stampa_Tutto_Il_Giorno(programma, edita);
   edita.Check[casella_tutte].segnata = false;
   if (edita.albero.ListaVoci.scelta < 0)
     return programma.piattaforma.Messaggio("Selezionare la riga sulla lista..(Hai salvato?)");

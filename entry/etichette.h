@@ -24,8 +24,6 @@ struct Contenuto_Etichetta {
   Voce lotto;
 };
 
-// The price of a comment; 0 where it doesn't begin with a number.
-double Prezzo_Etichetta(Vista commento, char separatore);
 Contenuto_Etichetta Componi_Etichetta(const LedgerRow& riga, char separatore);
 
 // The row in the entry fields on a page of its own, on the chosen printer as its paper lies.

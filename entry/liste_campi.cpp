@@ -7,6 +7,9 @@ using enum CampoRiga;
 // The lists of the coded fields go on from the field behind theirs, which leaves it out.
 constexpr std::optional<CampoRiga> resta = std::nullopt;
 
+// Whether the right button opens it too; the allergens are changed there by a double click instead.
+bool ApertaColDestro(const Finestra_Campo& finestra) { return finestra.campo != Allergeni; }
+
 }  // namespace
 
 std::span<const Finestra_Campo> Finestre_Campi() {
@@ -33,8 +36,6 @@ const Finestra_Campo* FinestraDelCampo(int indice) {
     if (Indice(finestra.campo) == indice) return &finestra;
   return nullptr;
 }
-
-bool ApertaColDestro(const Finestra_Campo& finestra) { return finestra.campo != Allergeni; }
 
 bool ApriListaCampo(Edita& edita, int indice) {
   if (Occupata(edita) || FinestraDelCampo(indice) == nullptr) return false;

@@ -24,8 +24,6 @@ struct Finestra_Campo {
 std::span<const Finestra_Campo> Finestre_Campi();
 // The window of a field; both fields of the customer have the same one. Null for a field without.
 const Finestra_Campo* FinestraDelCampo(int indice);
-// Whether the right button opens it too; the allergens are changed there by a double click instead.
-bool ApertaColDestro(const Finestra_Campo& finestra);
 
 // Asks for the window of field `indice`: the look-up list goes, the screen stands still and the field is
 // disabled until ListaChiusa. False when it can't be opened now.

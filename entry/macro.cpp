@@ -91,9 +91,9 @@ void PreparaRiga(Edita& edita) {
 // The whole file, nothing when there is none. One that is there and can't be read is told.
 std::optional<Testo> Contenuto_Macro(Programma& programma, Tipo_Macro tipo, Vista codice) {
   const Percorso file = File_Macro(programma, tipo, codice);
-  if (!programma.disco.Esiste_File(file)) return std::nullopt;
+  if (programma.disco.Manca_File(file)) return std::nullopt;
   int errore = 0;
-  auto contenuto = programma.disco.Leggi(file, &errore);
+  auto contenuto = programma.disco.Leggi_Testo(file, &errore);
   if (!contenuto) Mostra_Guasti(programma, {{errore, file}});
   return contenuto;
 }
@@ -159,7 +159,7 @@ void Memorizza(Programma& programma, Edita& edita, Tipo_Macro tipo) {
   const auto codice = ChiediCodice(programma, edita, forma);
   if (!codice) return;
   const Percorso file = File_Macro(programma, tipo, *codice);
-  if (programma.disco.Esiste_File(file) && !programma.piattaforma.Domanda("OK per sovrascrivere")) return;
+  if (!programma.disco.Manca_File(file) && !programma.piattaforma.Domanda("OK per sovrascrivere")) return;
   if (!Crea_Cartella(programma, Cartella_Macro(programma, tipo))) return;
   if (const int errore = programma.disco.Sostituisci(file, Contenuto_Da_Campi(edita, forma)))
     return Mostra_Guasti(programma, {{errore, file}});

@@ -69,7 +69,7 @@ void Apri_NotaAcc(const Programma& programma, const Edita& edita, NotaAcc& nota)
   nota.Caption[numero].testo = "Numero Fattura di Riferimento";
   nota.Caption[data].testo = "del (data gg/mm/yy)";
   nota.Label1.testo = "data:\ni = ieri\no = oggi";
-  nota.Command2.testo = "Conferma";
+  nota.Command2.testo = "&Conferma";
   nota.Annulla.testo = "&Annulla";
   nota.Command11.testo = "<";
   nota.Command12.testo = ">";

@@ -58,6 +58,7 @@ class Macchina_Muta : public Piattaforma {
   bool Domanda(const Testo&, Icona, const Testo&) override { return true; }
   std::optional<Testo> Chiedi(const Testo&, const Testo&, const Testo&) override { return risposta; }
   void Ridipingi() override {}
+  bool Vuole_Fermare() override { return false; }
   void Attendi(double) override {}
   void Occupato(bool) override {}
   Data Oggi() override { return {2025, 3, 14}; }

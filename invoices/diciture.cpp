@@ -42,12 +42,8 @@ void Mostra_Serie(const Preferenze& preferenze, Personalizza_Fattura& schermo, S
   for (std::size_t i = 0; i < righe.size(); ++i) campi[i].testo = righe[i];
 }
 
-}  // namespace
-
-std::span<const Testo, Righe_Dicitura> Righe_Di(const Preferenze& preferenze, Serie_Dicitura serie) {
-  return preferenze.*tracciati[Indice_Di(serie)].righe;
-}
-
+// The lines that a set's default button gives. Lines 2 to 4 of the long wording end in a blank only in the
+// first personal set.
 Dicitura Dicitura_Predefinita(Serie_Dicitura serie) {
   if (serie == Serie_Dicitura::Personalizzata2)
     return {"Assolve gli obblighi di cui all'Art. 62,", "Comma 1 del Decreto Legge 24 Gennaio 2012 n. 1.",
@@ -57,6 +53,12 @@ Dicitura Dicitura_Predefinita(Serie_Dicitura serie) {
   if (serie != Serie_Dicitura::Personalizzata1)
     for (Testo& riga : dicitura) riga = Pulito_Destra(Testo(riga));
   return dicitura;
+}
+
+}  // namespace
+
+std::span<const Testo, Righe_Dicitura> Righe_Di(const Preferenze& preferenze, Serie_Dicitura serie) {
+  return preferenze.*tracciati[Indice_Di(serie)].righe;
 }
 
 void Apri_Personalizza(const Programma& programma, Personalizza_Fattura& schermo) {

@@ -19,9 +19,6 @@ inline constexpr std::array<Serie_Dicitura, 4> Serie_Diciture = {
 
 // The six lines in use.
 std::span<const Testo, Righe_Dicitura> Righe_Di(const Preferenze& preferenze, Serie_Dicitura serie);
-// The lines that a set's default button gives. Lines 2 to 4 of the long wording end in a blank only in the
-// first personal set.
-Dicitura Dicitura_Predefinita(Serie_Dicitura serie);
 
 // One of the four sets on the screen.
 struct Serie_Campi {

@@ -1,6 +1,7 @@
 #include "invoices/file_fatture.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <optional>
 #include <utility>
 
@@ -17,13 +18,6 @@ constexpr Vista vietati = "/\\:*?\"<>|";
 constexpr std::size_t posto_codice = 1, posto_numero = 11, posto_data = 17, posto_ditta = 26,
                       posto_importo = 32;
 constexpr std::size_t lunghezza_data = 8;
-
-Testo Senza_Vietati(Testo testo) {
-  std::ranges::replace_if(
-      testo, [](char c) { return vietati.find(c) != Vista::npos || static_cast<unsigned char>(c) < ' '; },
-      '-');
-  return testo;
-}
 
 Testo Campo(Vista nome, std::size_t posto, std::size_t lunghezza) {
   return Testo(Sinistra(Da(nome, posto), lunghezza));
@@ -52,8 +46,11 @@ class Copia_Di_Prima {
   // `nostro` tells which of them are the program's own.
   Copia_Di_Prima(const Disco& disco, const Percorso& cartella, Vista modello, bool (*nostro)(Vista))
       : disco_(disco), cartella_(cartella) {
-    for (const Percorso& file : disco_.Elenca(cartella_, modello)) {
+    const auto nomi = disco_.Elenca(cartella_, modello, &errore_);
+    for (const Percorso& file : nomi.value_or(std::vector<Percorso>())) {
       Testo nome = Testo_Percorso(file);
+      // Letters outside the code page: none of ours, and its name leads nowhere.
+      if (Unisci_Percorso(cartella_, nome).filename() != file) continue;
       if (!nostro(nome)) {
         estranei_.push_back(std::move(nome));
         continue;
@@ -63,6 +60,8 @@ class Copia_Di_Prima {
     }
   }
 
+  // Of the folder: what isn't known of can't be put back.
+  int Errore() const { return errore_; }
   const std::vector<Vecchio>& Documenti() const { return documenti_; }
   const std::vector<Testo>& Estranei() const { return estranei_; }
 
@@ -74,7 +73,11 @@ class Copia_Di_Prima {
         tutto = disco_.Cancella(Unisci_Percorso(cartella_, nuovo.nome)) == 0 && tutto;
     for (const Vecchio& vecchio : documenti_) {
       const Percorso file = Unisci_Percorso(cartella_, vecchio.nome);
-      if (!vecchio.contenuto || disco_.Leggi(file) == vecchio.contenuto) continue;
+      if (!vecchio.contenuto) {  // it couldn't be read, so that it must still stand there itself
+        tutto = tutto && disco_.Esiste_File(file) && !Nominato(scritti, vecchio.nome);
+        continue;
+      }
+      if (disco_.Leggi(file) == vecchio.contenuto) continue;
       tutto = disco_.Sostituisci(file, *vecchio.contenuto) == 0 && tutto;
     }
     return tutto;
@@ -86,15 +89,26 @@ class Copia_Di_Prima {
                                [&](const Vecchio& vecchio) { return Uguali(vecchio.nome, nome); });
   }
 
+  static bool Nominato(const std::vector<File_Documento>& file, Vista nome) {
+    return std::ranges::any_of(file, [&](const File_Documento& uno) { return Uguali(uno.nome, nome); });
+  }
+
   const Disco& disco_;
   const Percorso& cartella_;
+  int errore_ = 0;
   std::vector<Vecchio> documenti_;
   std::vector<Testo> estranei_;
 };
 
-}  // namespace
+// <data>/<yyyy>_fat
+Percorso CartellaAnnoFatture(const Programma& programma) {
+  return Unisci_Percorso(programma.Cartella_Dati, programma.Anno_Lavoro + "_fat");
+}
 
+// "FAT" or "NAC".
 Vista SiglaDocumento(TipoFattura tipo) { return tipo == TipoFattura::Fattura ? "FAT" : "NAC"; }
+
+}  // namespace
 
 Vista ModelloDocumenti(TipoFattura tipo) {
   return tipo == TipoFattura::Fattura ? "?????_FAT*.txt" : "?????_NAC*.txt";
@@ -102,6 +116,13 @@ Vista ModelloDocumenti(TipoFattura tipo) {
 
 Testo CinqueCaratteri(Vista codice) {
   return Pad_Sinistra(Sinistra(Pulito(codice), lunghezza_codice), lunghezza_codice, '0');
+}
+
+Testo In_Nome_File(Testo testo) {
+  std::ranges::replace_if(
+      testo, [](char c) { return vietati.find(c) != Vista::npos || static_cast<unsigned char>(c) < ' '; },
+      '-');
+  return testo;
 }
 
 Testo NomeDocumento(const Programma& programma, const Documento_Fattura& documento) {
@@ -114,7 +135,7 @@ Testo NomeDocumento(const Programma& programma, const Documento_Fattura& documen
                          Formato(100 * documento.importi.TotaleDocumento, "#0", separatore),
                          "11"};
   for (const Testo& campo : campi) nome.append("_").append(campo);
-  return Senza_Vietati(std::move(nome)).append(estensione);
+  return In_Nome_File(std::move(nome)).append(estensione);
 }
 
 Testo NomePagina(Vista nome, int pagine, int pagina) {
@@ -141,10 +162,6 @@ int PagineDelNome(Vista nome) {
   return trattino == Vista::npos ? 0 : Intero(nome.substr(trattino + 1), ',');
 }
 
-Percorso CartellaAnnoFatture(const Programma& programma) {
-  return Unisci_Percorso(programma.Cartella_Dati, programma.Anno_Lavoro + "_fat");
-}
-
 Percorso CartellaGiornoFatture(const Programma& programma) {
   return Unisci_Percorso(CartellaAnnoFatture(programma), programma.Data_AAAAMMGG);
 }
@@ -161,6 +178,8 @@ namespace {
 
 Esito_File Metti_Tutti(const Disco& disco, const Percorso& cartella, const Copia_Di_Prima& prima,
                        const std::vector<File_Documento>& file) {
+  if (disco.E_Collegamento(cartella)) return {ELOOP, cartella, true};
+  if (prima.Errore() != 0) return {prima.Errore(), cartella, true};
   std::vector<Testo> nuovi;
   nuovi.reserve(file.size());
   for (const File_Documento& nuovo : file) {
@@ -197,8 +216,12 @@ Esito_File SostituisciFile(const Disco& disco, const Percorso& cartella, Vista m
 }
 
 Esito_File CancellaFile(const Disco& disco, const Percorso& cartella, Vista modello) {
+  if (disco.E_Collegamento(cartella)) return {ELOOP, cartella, true};
   Esito_File esito;
-  for (const Percorso& nome : disco.Elenca(cartella, modello)) {
+  int illeggibile = 0;
+  const auto nomi = disco.Elenca(cartella, modello, &illeggibile);
+  if (!nomi) return {illeggibile, cartella, true};
+  for (const Percorso& nome : *nomi) {
     const int errore = disco.Cancella(cartella / nome);
     if (errore != 0 && esito.errore == 0) esito = {errore, cartella / nome, true};
   }

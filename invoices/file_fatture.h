@@ -1,10 +1,10 @@
 #pragma once
 
-#include <functional>
 #include <vector>
 
 #include "core/disco.h"
 #include "invoices/fatture.h"
+#include "printing/pagina.h"
 
 // The files of invoices and credit notes: one for each page, in a folder for each day. Their names carry the
 // data that reports and transactions are made from, at fixed positions, so that files of several firms can be
@@ -13,17 +13,15 @@
 //   00345_FAT_00127_20250314_00042_12340_11.txt
 //   customer, kind, number, day, firm, total in cents, pages and page
 
-// Gets the caption of a long job each time it changes.
-using Avanzamento = std::function<void(const Testo&)>;
-
-// "FAT" or "NAC".
-Vista SiglaDocumento(TipoFattura tipo);
 // The names of such files, for a listing.
 Vista ModelloDocumenti(TipoFattura tipo);
 inline constexpr Vista ModelloTutti = "*.txt";
 
 // Five characters: zeros on the left, longer ones cut.
 Testo CinqueCaratteri(Vista codice);
+// A text as part of a file name: characters that would lead to another folder, or that not every machine
+// takes, become "-".
+Testo In_Nome_File(Testo testo);
 
 // The name of the first page of a document of one page. The number of an invoice is its leading number on
 // five digits, that of a note stands as it is. Characters that would lead to another folder become "-".
@@ -44,7 +42,6 @@ int PagineDelNome(Vista nome);
 
 // ---- folders; none of these makes one
 
-Percorso CartellaAnnoFatture(const Programma& programma);    // <data>/<yyyy>_fat
 Percorso CartellaGiornoFatture(const Programma& programma);  // <data>/<yyyy>_fat/<yyyymmdd>
 Percorso CartellaReport(const Programma& programma);         // <data>/<yyyy>_fat/Report
 Percorso CartellaTransazioni(const Programma& programma);    // <data>/XBanca
@@ -71,5 +68,6 @@ Esito_File SostituisciDocumenti(const Disco& disco, const Percorso& cartella,
 // The same for all files that match, none of them foreign; no folder is made.
 Esito_File SostituisciFile(const Disco& disco, const Percorso& cartella, Vista modello,
                            const std::vector<File_Documento>& file);
-// Deletes the files of the folder that match; goes on after a failure and gives the first.
+// Deletes the files of the folder that match; goes on after a failure and gives the first, or that of the
+// folder.
 Esito_File CancellaFile(const Disco& disco, const Percorso& cartella, Vista modello);

@@ -8,6 +8,31 @@ namespace {
 
 constexpr float corpo_minimo = 5, passo_corpo = 0.5F;
 
+// What stands in a cell of an item's first line.
+Testo Testo_Cella(const Voce_Documento& voce, Cella cella, char separatore) {
+  switch (cella) {
+    case Cella::Descrizione:
+      return voce.Voce;
+    case Cella::Lotto:
+      return voce.Lotto;
+    case Cella::Colli:
+      return Piano(voce.ColliRiga, separatore);
+    case Cella::Peso:
+      return Euro2_Migliaia(voce.PesoRiga, separatore);
+    case Cella::Prezzo:
+      return Euro2_Migliaia(voce.PrezzoRiga, separatore);
+    case Cella::Importo:
+      return Euro2_Migliaia(voce.Importo, separatore);
+    case Cella::Iva:
+      return Formato(voce.IvaRiga, "00", separatore) + "%";
+    case Cella::Zona:
+      return voce.ZonaRiga;
+    case Cella::Vuota:
+      break;
+  }
+  return {};
+}
+
 }  // namespace
 
 void Foglio::Carattere(float corpo, bool grassetto) {
@@ -64,30 +89,6 @@ void Foglio::Nome_A_Destra(float x, float y, float largo, Vista testo, float cor
   Corpo_Che_Entra(testo, corpo, largo);
   testo = Parte_Che_Entra(testo, largo);
   if (!testo.empty()) StampaDestra(printer_, x, y, largo, testo);
-}
-
-Testo Testo_Cella(const Voce_Documento& voce, Cella cella, char separatore) {
-  switch (cella) {
-    case Cella::Descrizione:
-      return voce.Voce;
-    case Cella::Lotto:
-      return voce.Lotto;
-    case Cella::Colli:
-      return Piano(voce.ColliRiga, separatore);
-    case Cella::Peso:
-      return Euro2_Migliaia(voce.PesoRiga, separatore);
-    case Cella::Prezzo:
-      return Euro2_Migliaia(voce.PrezzoRiga, separatore);
-    case Cella::Importo:
-      return Euro2_Migliaia(voce.Importo, separatore);
-    case Cella::Iva:
-      return Formato(voce.IvaRiga, "00", separatore) + "%";
-    case Cella::Zona:
-      return voce.ZonaRiga;
-    case Cella::Vuota:
-      break;
-  }
-  return {};
 }
 
 namespace {

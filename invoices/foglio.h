@@ -47,8 +47,6 @@ struct Colonna_Fattura {
 inline constexpr float Larghezza_Tabella = 200;
 inline constexpr float Margine_Cella = 1;
 
-// What stands in a cell of an item's first line.
-Testo Testo_Cella(const Voce_Documento& voce, Cella cella, char separatore);
 // A row of headings, and the first line of an item.
 void Disegna_Titoli(Foglio& foglio, std::span<const Colonna_Fattura> colonne, float x, float y, float corpo);
 void Disegna_Voce(Foglio& foglio, std::span<const Colonna_Fattura> colonne, const Voce_Documento& voce,

@@ -202,6 +202,21 @@ void Disegna_Pagina(Printer& printer, Vista contenuto, float inizio, bool intera
   }
 }
 
+// A page's file, and whether it is the first or the last one of its document.
+struct Pagina_Da_Stampare {
+  Percorso file;
+  bool prima = false, ultima = false;
+};
+
+std::vector<Pagina_Da_Stampare> Pagine_Da_Stampare(const std::vector<Percorso>& nomi) {
+  std::vector<Pagina_Da_Stampare> pagine;
+  for (const Percorso& nome : nomi) {
+    const auto file = File_Delle_Pagine(nome);
+    for (std::size_t i = 0; i < file.size(); ++i) pagine.push_back({file[i], i == 0, i + 1 == file.size()});
+  }
+  return pagine;
+}
+
 void Nomina(Printer& printer, const Percorso& file, TipoFattura tipo) {
   const Dati_Nome dati = LeggiNome(Nome_File(file));
   printer.documento = {dati.data, Testo(GenereDocumento(tipo)), dati.numero, dati.codice};
@@ -247,7 +262,7 @@ Esito_File ScriviPagineTesto(const Programma& programma, const Percorso& cartell
 void StampaFileTesto(const Programma& programma, const Percorso& nome, TipoFattura tipo) {
   Printer& printer = Dispositivo(programma);
   for (const Percorso& file : File_Delle_Pagine(nome)) {
-    const auto contenuto = programma.disco.Leggi(file);
+    const auto contenuto = programma.disco.Leggi_Testo(file);
     if (!contenuto) continue;  // told when it couldn't be written
     Nomina(printer, file, tipo);
     Prepara_Carattere(printer, corpo_grande);
@@ -256,24 +271,23 @@ void StampaFileTesto(const Programma& programma, const Percorso& nome, TipoFattu
   }
 }
 
-void StampaDuePerFoglio(const Programma& programma, const std::vector<Percorso>& nomi, TipoFattura tipo) {
-  std::vector<Percorso> pagine;
-  for (const Percorso& nome : nomi) {
-    const auto file = File_Delle_Pagine(nome);
-    pagine.insert(pagine.end(), file.begin(), file.end());
-  }
+void StampaDuePerFoglio(const Programma& programma, const std::vector<Percorso>& nomi, TipoFattura tipo,
+                        Corsa& corsa) {
+  const std::vector<Pagina_Da_Stampare> pagine = Pagine_Da_Stampare(nomi);
   Printer& printer = Dispositivo(programma);
   for (std::size_t i = 0; i < pagine.size(); ++i) {
     const bool sotto = i % 2 == 1;
+    if (!sotto && pagine[i].prima && !corsa.Avanti()) return;
     if (!sotto) {
       printer.Orientation(Verticale);
       Due_Pause(programma);
-      Nomina(printer, pagine[i], tipo);
+      Nomina(printer, pagine[i].file, tipo);
     }
-    if (const auto contenuto = programma.disco.Leggi(pagine[i])) {
+    if (const auto contenuto = programma.disco.Leggi_Testo(pagine[i].file)) {
       Prepara_Carattere(printer, corpo_piccolo);
       Disegna_Pagina(printer, *contenuto, sotto ? static_cast<float>(printer.Height()) / 2 : 0, false);
     }
     if (sotto || i + 1 == pagine.size()) printer.EndDoc();
+    if (pagine[i].ultima) corsa.Fatta();
   }
 }

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "core/corsa.h"
 #include "invoices/fatture.h"
 #include "invoices/file_fatture.h"
 
@@ -32,5 +33,7 @@ Vista GenereDocumento(TipoFattura tipo);
 // Sends the pages of the document whose first page is `nome` to the printer, a sheet each. The orientation
 // must be set. Nothing for a name that isn't a document's.
 void StampaFileTesto(const Programma& programma, const Percorso& nome, TipoFattura tipo);
-// The pages of these documents two to a sheet, upright, in the order given.
-void StampaDuePerFoglio(const Programma& programma, const std::vector<Percorso>& nomi, TipoFattura tipo);
+// The pages of these documents two to a sheet, upright, in the order given. A stopped run ends before a
+// sheet that begins with a document.
+void StampaDuePerFoglio(const Programma& programma, const std::vector<Percorso>& nomi, TipoFattura tipo,
+                        Corsa& corsa);

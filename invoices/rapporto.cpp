@@ -12,34 +12,7 @@ Testo Euro(double centesimi, char separatore) {
 
 void Riga(Testo& testo, const Testo& riga) { testo.append(riga).append(FINE_RIGA); }
 
-}  // namespace
-
-Tabella_Run LeggiDocumenti(const Programma& programma, TipoFattura tipo, const Avanzamento& avanzamento) {
-  if (avanzamento) avanzamento("Selezione documenti....");
-  Tabella_Run run;
-  const auto nomi = programma.disco.Elenca(CartellaGiornoFatture(programma), ModelloDocumenti(tipo));
-  for (const Percorso& file : nomi) {
-    const Testo nome = Testo_Percorso(file);
-    const Dati_Nome dati = LeggiNome(nome);
-    if (run.data.empty()) {
-      run.data = dati.data;
-      run.ditta = dati.ditta;
-    }
-    if (dati.pagina == "1")
-      run.righe.push_back(
-          {dati.codice, dati.numero, dati.data, dati.ditta, dati.centesimi, dati.pagina, nome});
-  }
-  if (run.righe.empty() && !nomi.empty()) run.righe.emplace_back();
-  for (const Riga_Run& riga : run.righe) run.somma += Valore(riga.centesimi, programma.Separatore_Decimale);
-  return run;
-}
-
-Percorso PercorsoReport(const Programma& programma) {
-  return Unisci_Percorso(CartellaReport(programma),
-                         programma.Data_AAAAMMGG + "_" +
-                             CinqueCaratteri(programma.preferenze.Codice_Commissionario) + "_RepFat.txt");
-}
-
+// The lines of the report for that kind, each with its end.
 Testo TestoReport(const Programma& programma, TipoFattura tipo, const Tabella_Run& run) {
   const bool fatture = tipo == TipoFattura::Fattura;
   const char separatore = programma.Separatore_Decimale;
@@ -63,12 +36,46 @@ Testo TestoReport(const Programma& programma, TipoFattura tipo, const Tabella_Ru
   return testo;
 }
 
+}  // namespace
+
+std::optional<Tabella_Run> LeggiDocumenti(const Programma& programma, TipoFattura tipo,
+                                          const Avanzamento& avanzamento, int* errore) {
+  if (avanzamento) avanzamento("Selezione documenti....");
+  Tabella_Run run;
+  const auto nomi = programma.disco.Elenca(CartellaGiornoFatture(programma), ModelloDocumenti(tipo), errore);
+  if (!nomi) return std::nullopt;
+  for (const Percorso& file : *nomi) {
+    const Testo nome = Testo_Percorso(file);
+    const Dati_Nome dati = LeggiNome(nome);
+    if (run.data.empty()) {
+      run.data = dati.data;
+      run.ditta = dati.ditta;
+    }
+    if (dati.pagina == "1")
+      run.righe.push_back(
+          {dati.codice, dati.numero, dati.data, dati.ditta, dati.centesimi, dati.pagina, nome});
+  }
+  if (run.righe.empty() && !nomi->empty()) run.righe.emplace_back();
+  for (const Riga_Run& riga : run.righe) run.somma += Valore(riga.centesimi, programma.Separatore_Decimale);
+  return run;
+}
+
+Percorso PercorsoReport(const Programma& programma) {
+  return Unisci_Percorso(
+      CartellaReport(programma),
+      In_Nome_File(programma.Data_AAAAMMGG + "_" +
+                   CinqueCaratteri(programma.preferenze.Codice_Commissionario) + "_RepFat.txt"));
+}
+
 Esito_File ScriviReport(const Programma& programma, TipoFattura tipo, const Avanzamento& avanzamento) {
   const Percorso file = PercorsoReport(programma);
   const Percorso cartella = CartellaReport(programma);
   if (const int errore = programma.disco.Crea_Cartella(cartella)) return {errore, cartella, true};
-  const Testo testo = TestoReport(programma, tipo, LeggiDocumenti(programma, tipo, avanzamento));
-  const int errore = tipo == TipoFattura::Fattura ? programma.disco.Sostituisci(file, testo)
-                                                  : programma.disco.Aggiungi(file, testo);
+  int errore = 0;
+  const auto run = LeggiDocumenti(programma, tipo, avanzamento, &errore);
+  if (!run) return {errore, CartellaGiornoFatture(programma), true};
+  const Testo testo = TestoReport(programma, tipo, *run);
+  errore = tipo == TipoFattura::Fattura ? programma.disco.Sostituisci(file, testo)
+                                        : programma.disco.Aggiungi(file, testo);
   return {errore, file, true};
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "invoices/file_fatture.h"
@@ -23,13 +24,12 @@ struct Tabella_Run {
 };
 
 // A document of several pages counts once, with the amount of its first page. Where a folder holds later
-// pages only, one empty row is left.
-Tabella_Run LeggiDocumenti(const Programma& programma, TipoFattura tipo, const Avanzamento& avanzamento = {});
+// pages only, one empty row is left. Nothing where the folder can't be read; `errore` then says why.
+std::optional<Tabella_Run> LeggiDocumenti(const Programma& programma, TipoFattura tipo,
+                                          const Avanzamento& avanzamento = {}, int* errore = nullptr);
 
 Percorso PercorsoReport(const Programma& programma);  // makes no folder
 
-// The lines of the report for that kind, each with its end.
-Testo TestoReport(const Programma& programma, TipoFattura tipo, const Tabella_Run& run);
 // Writes them: those of the invoices as a new file, those of the notes behind it. The folder is made when it
 // is missing. The first failure is in the result.
 Esito_File ScriviReport(const Programma& programma, TipoFattura tipo, const Avanzamento& avanzamento = {});

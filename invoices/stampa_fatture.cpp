@@ -4,7 +4,9 @@
 #include <initializer_list>
 #include <utility>
 
+#include "core/corsa.h"
 #include "core/giorno.h"
+#include "core/impegno.h"
 #include "invoices/file_fatture.h"
 #include "invoices/lear.h"
 #include "invoices/pagine_grafiche.h"
@@ -14,6 +16,9 @@
 #include "printing/pagina.h"
 
 namespace {
+
+constexpr Parole_Corsa documenti_interrotti{"Stampa interrotta", "documento", "documenti"};
+constexpr Vista rimasti = "I documenti della stampa precedente sono rimasti come erano.";
 
 Testo Unisci_Righe(std::initializer_list<Vista> righe) {
   Testo testo;
@@ -32,26 +37,6 @@ void Mostra_Titolo(const Programma& programma, const Stampa_Fatture& stampa, con
   if (stampa.titolo) stampa.titolo(titolo);
   programma.piattaforma.Ridipingi();
 }
-
-// The screen is disabled while documents are made.
-class Schermo_Fermo {
- public:
-  Schermo_Fermo(const Programma& programma, const Stampa_Fatture& stampa)
-      : programma_(programma), stampa_(stampa) {
-    if (stampa_.attiva) stampa_.attiva(false);
-    programma_.piattaforma.Occupato(true);
-  }
-  ~Schermo_Fermo() {
-    programma_.piattaforma.Occupato(false);
-    if (stampa_.attiva) stampa_.attiva(true);
-  }
-  Schermo_Fermo(const Schermo_Fermo&) = delete;
-  Schermo_Fermo& operator=(const Schermo_Fermo&) = delete;
-
- private:
-  const Programma& programma_;
-  const Stampa_Fatture& stampa_;
-};
 
 // Documents on their way to files or to the printer.
 struct Lavoro {
@@ -108,15 +93,27 @@ Documento_Fattura Prepara(Lavoro& lavoro, TipoFattura tipo, const Voce_Fattura& 
   return documento;
 }
 
-// Draws the document or lays down its text pages; in a carrier's run the pages first.
-void Stendi(Lavoro& lavoro, TipoFattura tipo, const Voce_Fattura& voce) {
+// Draws the document or lays down its text pages; in a carrier's run the pages first. True when it is drawn.
+bool Stendi(Lavoro& lavoro, TipoFattura tipo, const Voce_Fattura& voce) {
   Documento_Fattura documento = Prepara(lavoro, tipo, voce);
-  if (documento.voci.empty()) return;  // sales of price zero only
+  if (documento.voci.empty()) return false;  // sales of price zero only
   const bool corsa_vettore = lavoro.stampa.spedizione && lavoro.stampa.scelte.Tutte;
-  if (!corsa_vettore && Tracciato_Di(lavoro, tipo) != Tracciato_Fattura::Pagine_Testo)
-    return Disegna(lavoro, documento);
+  if (!corsa_vettore && Tracciato_Di(lavoro, tipo) != Tracciato_Fattura::Pagine_Testo) {
+    Disegna(lavoro, documento);
+    return true;
+  }
   Scrivi_Testo(lavoro, documento);
   if (corsa_vettore) lavoro.spediti.push_back(std::move(documento));
+  return false;
+}
+
+// False once the operator has stopped the run.
+bool Stendi_Tutti(Lavoro& lavoro, Corsa& corsa, TipoFattura tipo, const TabellaDocumenti& documenti) {
+  for (const Voce_Fattura& voce : documenti) {
+    if (!corsa.Avanti()) return false;
+    if (Stendi(lavoro, tipo, voce)) corsa.Fatta();
+  }
+  return true;
 }
 
 void Di_Errore_File(const Programma& programma, const Esito_File& esito, Vista cosa, Vista e_poi) {
@@ -126,9 +123,8 @@ void Di_Errore_File(const Programma& programma, const Esito_File& esito, Vista c
 }
 
 void Di_Errore_Documenti(const Programma& programma, const Esito_File& esito) {
-  const Vista prima = esito.rimesso
-                          ? "I documenti della stampa precedente sono rimasti come erano."
-                          : "Non tutti i documenti della stampa precedente si sono potuti rimettere.";
+  const Vista prima =
+      esito.rimesso ? rimasti : "Non tutti i documenti della stampa precedente si sono potuti rimettere.";
   Di_Errore_File(programma, esito, "I documenti non sono stati scritti.", prima);
 }
 
@@ -201,25 +197,49 @@ void Cancella_Rifiutata(const Lavoro& lavoro) {
                    "Controllare la cartella e ripetere.");
 }
 
-void Stampa_Grande(const Lavoro& lavoro, const std::vector<Percorso>& lista, TipoFattura tipo) {
-  Dispositivo(lavoro.programma).Orientation(Orizzontale);
-  Due_Pause(lavoro.programma);
-  for (const Percorso& nome : lista) StampaFileTesto(lavoro.programma, nome, tipo);
+void Gira_In_Orizzontale(const Programma& programma) {
+  Dispositivo(programma).Orientation(Orizzontale);
+  Due_Pause(programma);
+}
+
+void Stampa_Grandi(const Lavoro& lavoro, Corsa& corsa) {
+  Gira_In_Orizzontale(lavoro.programma);
+  for (const Percorso& nome : lavoro.ListaFatture) {
+    if (!corsa.Avanti()) return;
+    StampaFileTesto(lavoro.programma, nome, TipoFattura::Fattura);
+    corsa.Fatta();
+  }
+}
+
+void Disegna_Spediti(Lavoro& lavoro, Corsa& corsa) {
+  for (const Documento_Fattura& documento : lavoro.spediti) {
+    if (!corsa.Avanti()) return;
+    Disegna(lavoro, documento);
+    corsa.Fatta();
+  }
+}
+
+// How many documents the run sends to paper once their texts are safe.
+std::size_t Quanti_Su_Carta(const Lavoro& lavoro) {
+  if (lavoro.stampa.spedizione) return lavoro.spediti.size();
+  const std::size_t note = lavoro.stampa.scelte.Paginax2 ? lavoro.ListaNote.size() : 0;
+  return lavoro.ListaFatture.size() + note;
 }
 
 // The paper of a run whose texts are safe.
-void Stampa_Corsa(Lavoro& lavoro) {
+void Stampa_Corsa(Lavoro& lavoro, Corsa& corsa) {
   const Scelte_Stampa& scelte = lavoro.stampa.scelte;
   if (!scelte.Stampale) return;
-  for (const Documento_Fattura& documento : lavoro.spediti) Disegna(lavoro, documento);
+  Disegna_Spediti(lavoro, corsa);
   if (!lavoro.stampa.spedizione && !scelte.Paginax2 && !lavoro.ListaFatture.empty())
-    Stampa_Grande(lavoro, lavoro.ListaFatture, TipoFattura::Fattura);
+    Stampa_Grandi(lavoro, corsa);
 }
 
-// Documents, report and paper; false when something stopped it.
-bool Esegui(Programma& programma, Stampa_Fatture& stampa) {
-  Lavoro lavoro{.programma = programma, .stampa = stampa, .cartella = Cartella_Fatture(programma)};
-  if (!programma.disco.Esiste_Cartella(lavoro.cartella)) return false;  // told
+// Documents, report and paper; false when something ended it. `interrotta` tells what was done until Esc:
+// before the texts are written those of the last run stay, afterwards only paper is missing.
+bool Esegui(Programma& programma, Stampa_Fatture& stampa, Testo& interrotta) {
+  Lavoro lavoro{.programma = programma, .stampa = stampa, .cartella = CartellaGiornoFatture(programma)};
+  if (!Crea_Cartella(programma, lavoro.cartella)) return false;  // told
   const bool grafica = !stampa.spedizione && Quante_Grafiche(stampa.scelte) > 0;
   Mostra_Titolo(programma, stampa, "Cancellazione Fatture e Transazioni di oggi...");
   // Text pages take the place of the old ones once all of them are safe; drawn ones leave no file.
@@ -230,22 +250,32 @@ bool Esegui(Programma& programma, Stampa_Fatture& stampa) {
     if (!grafica) Cancella_Rifiutata(lavoro);
     return false;
   }
-  for (const Voce_Fattura& nota : stampa.note) Stendi(lavoro, TipoFattura::Nota, nota);
+  Corsa stesura(programma.piattaforma, stampa.note.size() + stampa.fatture.size());
+  bool intera = Stendi_Tutti(lavoro, stesura, TipoFattura::Nota, stampa.note);
   if (!stampa.fatture.empty() && stampa.scelte.Personalizzata) {
     stampa.scelte.Paginax2 = false;
     stampa.scelte.Stampale = true;
   }
-  for (const Voce_Fattura& fattura : stampa.fatture) Stendi(lavoro, TipoFattura::Fattura, fattura);
+  intera = intera && Stendi_Tutti(lavoro, stesura, TipoFattura::Fattura, stampa.fatture);
+  if (!intera) {
+    interrotta = stesura.Testo_Fermata(documenti_interrotti);
+    if (!grafica) interrotta = Unisci_Righe({interrotta, rimasti});
+    return false;
+  }
   if (!grafica && !Scrivi_Documenti(lavoro)) return false;
-  Stampa_Corsa(lavoro);
+  Corsa carta(programma.piattaforma, Quanti_Su_Carta(lavoro));
+  Stampa_Corsa(lavoro, carta);
   Mostra_Titolo(programma, stampa, "Prepara i report...");
   bool scritti = Scrivi_Reports(programma, stampa);
   Mostra_Titolo(programma, stampa, "Prepara file transazioni con vet_report");
   if (stampa.spedizione) scritti = Scrivi_Registri(lavoro) && scritti;
   if (stampa.scelte.Paginax2) {
-    StampaDuePerFoglio(programma, lavoro.ListaFatture, TipoFattura::Fattura);
-    StampaDuePerFoglio(programma, lavoro.ListaNote, TipoFattura::Nota);
+    StampaDuePerFoglio(programma, lavoro.ListaFatture, TipoFattura::Fattura, carta);
+    StampaDuePerFoglio(programma, lavoro.ListaNote, TipoFattura::Nota, carta);
   }
+  if (carta.Fermata())
+    interrotta =
+        Unisci_Righe({carta.Testo_Fermata(documenti_interrotti), "Su disco i documenti sono stati scritti."});
   return scritti;
 }
 
@@ -258,7 +288,7 @@ bool Stampa_Una(Programma& programma, Stampa_Fatture& stampa, TipoFattura tipo, 
   programma.preferenze.CittaCV = Pulito(stampa.Text2);
   Stendi(lavoro, tipo, voce);
   if (lavoro.file.empty()) return true;
-  if (!programma.disco.Esiste_Cartella(Cartella_Fatture(programma))) return false;  // told
+  if (!Crea_Cartella(programma, lavoro.cartella)) return false;  // told
   const Esito_File esito = ScriviPagineTesto(programma, lavoro.cartella, lavoro.file);
   if (esito.errore != 0) {
     Di_Errore_File(programma, esito, "Il documento non è stato scritto."_t,
@@ -266,8 +296,10 @@ bool Stampa_Una(Programma& programma, Stampa_Fatture& stampa, TipoFattura tipo, 
     return false;
   }
   const auto& lista = tipo == TipoFattura::Fattura ? lavoro.ListaFatture : lavoro.ListaNote;
-  for (int copia = 0; stampa.scelte.Stampale && copia < stampa.scelte.copie; ++copia)
-    Stampa_Grande(lavoro, lista, tipo);
+  for (int copia = 0; stampa.scelte.Stampale && copia < stampa.scelte.copie; ++copia) {
+    Gira_In_Orizzontale(programma);
+    for (const Percorso& nome : lista) StampaFileTesto(programma, nome, tipo);
+  }
   return true;
 }
 
@@ -332,16 +364,16 @@ bool StampaFatNa(Programma& programma, Stampa_Fatture& stampa) {
   const Testo conferma =
       disegna ? ConfermaVettore() : ConfermaFatNa(scelte, OrientamentoStampante(Dispositivo(programma)));
   if (!programma.piattaforma.Domanda(conferma)) return false;
+  Testo interrotta;
+  bool fatto = false;
   {
-    const Schermo_Fermo fermo(programma, stampa);
-    const bool fatto = Esegui(programma, stampa);
+    const Clessidra clessidra(programma.piattaforma);
+    fatto = Esegui(programma, stampa, interrotta);
     programma.Tabella_Modificata = true;  // invoices leave their numbers in the rows
-    if (!fatto) {
-      Mostra_Titolo(programma, stampa, "Fatturazione");
-      return false;
-    }
   }
   Mostra_Titolo(programma, stampa, "Fatturazione");
+  if (!interrotta.empty()) programma.piattaforma.Messaggio(interrotta, Icona::Informazione);
+  if (!fatto || !interrotta.empty()) return false;
   programma.piattaforma.Messaggio("quanto richiesto è stato fatto...."_t);
   return true;
 }
@@ -362,7 +394,7 @@ bool StampaVoce(Programma& programma, Stampa_Fatture& stampa, TipoFattura tipo, 
           Unisci_Righe({domanda, OrientamentoStampante(Dispositivo(programma)), "OK per continuare..."})))
     return false;
   {
-    const Schermo_Fermo fermo(programma, stampa);
+    const Clessidra clessidra(programma.piattaforma);
     if (!Stampa_Una(programma, stampa, tipo, voce)) return false;
   }
   Mostra_Titolo(programma, stampa, "Fatturazione");

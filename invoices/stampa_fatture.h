@@ -1,9 +1,9 @@
 #pragma once
 
-#include <functional>
 #include <optional>
 
 #include "invoices/fatture.h"
+#include "printing/pagina.h"
 
 // Printing and filing of invoices and credit notes: the run over all of them, one alone, and what is shown of
 // their files. A screen keeps the lists, the choices and the caption, and hands them over here.
@@ -22,14 +22,12 @@ struct Stampa_Fatture {
   Scelte_Stampa scelte;
   Testo Text2;                           // the place before the date
   std::optional<Spedizione> spedizione;  // of a firm that ships its goods
-  // Any of these may be empty.
-  std::function<void(const Testo&)> titolo;  // the screen's caption; who shows it repaints
-  std::function<void(bool)> attiva;          // false while documents are written and printed, then true
+  Avanzamento titolo;                    // the screen's caption; may be empty
 };
 
 // "Stampa Fat+Na": checks, asks, replaces all documents of the day by new ones, prints as chosen, writes the
-// report. True when all was done; whatever stopped it has been told. When a document can't be written, those
-// of the last run stay as they were, and so does the report.
+// report. True when all was done; whatever stopped it has been told. When a document can't be written, or the
+// operator presses Esc before they are, those of the last run stay as they were, and so does the report.
 bool StampaFatNa(Programma& programma, Stampa_Fatture& stampa);
 
 // A double click on an entry: prints that document after a question; with nothing to print it opens the day's

@@ -1,5 +1,7 @@
 #include "invoices/transazioni.h"
 
+#include <cerrno>
+
 #include "core/numeri.h"
 #include "invoices/record.h"
 
@@ -15,12 +17,23 @@ Testo Ditta(const Programma& programma) {
 
 Testo Giorno(const Programma& programma) { return Pad(programma.Data_GGMMAAAA, lunghezza_data); }
 
+Testo TestoTransazioni(const Programma& programma, Vista cliente, const Tabella_Run& fatture,
+                       const Tabella_Run& note) {
+  Testo testo = RecordTesta(programma) + Testo(FINE_RIGA);
+  for (const Riga_Run& riga : fatture.righe)
+    testo.append(RecordDettaglio(programma, TipoFattura::Fattura, cliente, riga)).append(FINE_RIGA);
+  for (const Riga_Run& riga : note.righe)
+    testo.append(RecordDettaglio(programma, TipoFattura::Nota, cliente, riga)).append(FINE_RIGA);
+  return testo.append(RecordCoda(programma, fatture, note)).append(FINE_RIGA);
+}
+
 }  // namespace
 
 Percorso FileTransazioni(const Programma& programma) {
-  return Unisci_Percorso(CartellaTransazioni(programma),
-                         "Transazioni_" + CinqueCaratteri(programma.preferenze.Codice_Commissionario) + "_" +
-                             programma.Data_AAAAMMGG + ".txt");
+  return Unisci_Percorso(
+      CartellaTransazioni(programma),
+      In_Nome_File("Transazioni_" + CinqueCaratteri(programma.preferenze.Codice_Commissionario) + "_" +
+                   programma.Data_AAAAMMGG + ".txt"));
 }
 
 Testo RecordTesta(const Programma& programma) {
@@ -46,30 +59,28 @@ Testo RecordCoda(const Programma& programma, const Tabella_Run& fatture, const T
              lunghezza_testa);
 }
 
-Testo TestoTransazioni(const Programma& programma, Vista cliente, const Tabella_Run& fatture,
-                       const Tabella_Run& note) {
-  Testo testo = RecordTesta(programma) + Testo(FINE_RIGA);
-  for (const Riga_Run& riga : fatture.righe)
-    testo.append(RecordDettaglio(programma, TipoFattura::Fattura, cliente, riga)).append(FINE_RIGA);
-  for (const Riga_Run& riga : note.righe)
-    testo.append(RecordDettaglio(programma, TipoFattura::Nota, cliente, riga)).append(FINE_RIGA);
-  return testo.append(RecordCoda(programma, fatture, note)).append(FINE_RIGA);
-}
-
 Esito_File ScriviTransazioni(const Programma& programma, Vista cliente, const Avanzamento& avanzamento) {
   const Percorso cartella = CartellaTransazioni(programma);
   if (const int errore = programma.disco.Crea_Cartella(cartella)) return {errore, cartella, true};
-  const Tabella_Run fatture = LeggiDocumenti(programma, TipoFattura::Fattura, avanzamento);
-  const Tabella_Run note = LeggiDocumenti(programma, TipoFattura::Nota, avanzamento);
+  int errore = 0;
+  const auto fatture = LeggiDocumenti(programma, TipoFattura::Fattura, avanzamento, &errore);
+  if (!fatture) return {errore, CartellaGiornoFatture(programma), true};
+  const auto note = LeggiDocumenti(programma, TipoFattura::Nota, avanzamento, &errore);
+  if (!note) return {errore, CartellaGiornoFatture(programma), true};
   const Percorso file = FileTransazioni(programma);
-  return {programma.disco.Sostituisci(file, TestoTransazioni(programma, cliente, fatture, note)), file, true};
+  return {programma.disco.Sostituisci(file, TestoTransazioni(programma, cliente, *fatture, *note)), file,
+          true};
 }
 
 Esito_File CancellaAltreTransazioni(const Programma& programma) {
   Esito_File esito;
   const Percorso cartella = CartellaTransazioni(programma);
+  if (programma.disco.E_Collegamento(cartella)) return {ELOOP, cartella, true};
   const Testo nostro = Testo_Percorso(FileTransazioni(programma).filename());
-  for (const Percorso& nome : programma.disco.Elenca(cartella, ModelloTutti)) {
+  int illeggibile = 0;
+  const auto nomi = programma.disco.Elenca(cartella, ModelloTutti, &illeggibile);
+  if (!nomi) return {illeggibile, cartella, true};
+  for (const Percorso& nome : *nomi) {
     if (Uguali(Testo_Percorso(nome), nostro)) continue;
     const int errore = programma.disco.Cancella(cartella / nome);
     if (errore != 0 && esito.errore == 0) esito = {errore, cartella / nome, true};

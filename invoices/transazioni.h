@@ -16,8 +16,6 @@ Testo RecordTesta(const Programma& programma);
 Testo RecordDettaglio(const Programma& programma, TipoFattura tipo, Vista cliente, const Riga_Run& riga);
 // The sum of cents stands there multiplied by 100 once more, as the bank's program has always had it.
 Testo RecordCoda(const Programma& programma, const Tabella_Run& fatture, const Tabella_Run& note);
-Testo TestoTransazioni(const Programma& programma, Vista cliente, const Tabella_Run& fatture,
-                       const Tabella_Run& note);
 
 // Writes the file, its folder too; when that fails the file of before stays.
 Esito_File ScriviTransazioni(const Programma& programma, Vista cliente, const Avanzamento& avanzamento = {});

@@ -52,8 +52,7 @@ void Esegui(Programma& programma, ZFatture& zfatture, Comando comando) {
                         .scelte = Scelte(zfatture),
                         .Text2 = zfatture.Text2.testo,
                         .spedizione = SpedizioneScelta(programma, zfatture),
-                        .titolo = [&](const Testo& titolo) { zfatture.titolo = titolo; },
-                        .attiva = {}};
+                        .titolo = [&](const Testo& titolo) { zfatture.titolo = titolo; }};
   const Testo titolo = zfatture.titolo;
   if (!comando(stampa)) zfatture.titolo = titolo;
   Mostra_Scelte(zfatture, stampa.scelte);

@@ -92,7 +92,7 @@ Testo Riga_Di_File(const std::vector<Testo>& valori) {
 int Accoda(Programma& programma, Vista nome, Vista riga) {
   const Percorso percorso = Percorso_Lista(programma, nome);
   Testo contenuto;
-  if (Esiste_Lista(programma, nome)) {
+  if (!Manca_Lista(programma, nome)) {
     int errore = 0;
     auto letto = programma.disco.Leggi(percorso, &errore);
     if (!letto) return errore != 0 ? errore : EIO;

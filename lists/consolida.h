@@ -8,7 +8,8 @@
 #include "core/numeri.h"
 #include "lists/ordina.h"
 
-// `prima` plus `dopo` as plain decimal text. Where one of them is no number `prima` stays as it is.
+// `prima` plus `dopo` as plain decimal text. A text that is no number counts as nothing, and where `dopo` is
+// none `prima` stays as it is: the weight that is known must not go with one that isn't.
 void Somma_Testi(Testo& prima, Vista dopo, char separatore);
 
 // Merges neighbouring rows whose key fields are equal ignoring case: the sum fields of the later row are

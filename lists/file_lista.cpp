@@ -12,6 +12,10 @@ bool Esiste_Lista(const Programma& programma, Vista nome) {
   return programma.disco.Esiste_File(Percorso_Lista(programma, nome));
 }
 
+bool Manca_Lista(const Programma& programma, Vista nome, int* errore) {
+  return programma.disco.Manca_File(Percorso_Lista(programma, nome), errore);
+}
+
 void Mostra_Guasti(Programma& programma, const std::vector<Guasto_Lista>& guasti) {
   Testo testo;
   for (const auto& [errore, percorso] : guasti) {
@@ -25,11 +29,8 @@ std::optional<Testo> Leggi_File_Lista(Programma& programma, Vista nome) {
   programma.Liste_Ignote.erase(Testo(nome));
   const Percorso percorso = Percorso_Lista(programma, nome);
   int errore = 0;
-  auto contenuto = programma.disco.Leggi(percorso, &errore);
-  if (contenuto) {
-    contenuto->erase(0, contenuto->size() - Senza_Marca(*contenuto).size());
-    return contenuto;
-  }
+  auto contenuto = programma.disco.Leggi_Testo(percorso, &errore);
+  if (contenuto) return contenuto;
   // A folder or a pipe of that name isn't the list. Of a disk that doesn't answer it can't be said that the
   // list is missing: it must not be seeded anew.
   constexpr int non_e_un_file[] = {ENOENT, ENOTDIR, EISDIR, EINVAL, ENXIO};
@@ -43,7 +44,7 @@ int Scrivi_File_Lista(Programma& programma, Vista nome, Vista contenuto) {
   const Percorso percorso = Percorso_Lista(programma, nome);
   if (const auto ignota = programma.Liste_Ignote.find(Testo(nome)); ignota != programma.Liste_Ignote.end())
     return ignota->second;
-  if (int errore = 0; Esiste_Lista(programma, nome) && !programma.disco.Leggi(percorso, &errore))
+  if (int errore = 0; !Manca_Lista(programma, nome) && !programma.disco.Leggi(percorso, &errore))
     return errore != 0 ? errore : EIO;
   return programma.disco.Sostituisci(percorso, contenuto);
 }

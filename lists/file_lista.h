@@ -9,6 +9,7 @@
 
 Percorso Percorso_Lista(const Programma& programma, Vista nome);
 bool Esiste_Lista(const Programma& programma, Vista nome);
+bool Manca_Lista(const Programma& programma, Vista nome, int* errore = nullptr);  // as Disco::Manca_File
 
 // "Errore =<n>  aprendo il file <path>", a line for each file; nothing is shown for none.
 struct Guasto_Lista {

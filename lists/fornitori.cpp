@@ -37,7 +37,7 @@ bool Salva_Fornitori(Programma& programma) {
 }
 
 bool Scrivi_Fornitori_Predefiniti(Programma& programma) {
-  if (Esiste_Lista(programma, nomi_file::Fornitori)) return true;
+  if (!Manca_Lista(programma, nomi_file::Fornitori)) return true;
   programma.piattaforma.Messaggio(Testo_Percorso(Percorso_Lista(programma, nomi_file::Fornitori)) +
                                   "....non trovato...\nScrivo il file di default... ");
   return Salva_File_Lista(programma, nomi_file::Fornitori, Riga_Fornitore_Predefinita());

@@ -34,11 +34,11 @@ int Numero_Righe(Vista contenuto) {
   return static_cast<int>(std::count(contenuto.begin(), contenuto.end(), '\n'));
 }
 
-// What is known before anything is written: true when there is nothing to write.
+// What is known before anything is written: true when there is nothing to write, or nobody knows.
 bool Gia_Provveduto(const Programma& programma, const std::vector<Vista>& precedenti, Lista_Generata& esito) {
-  if (Esiste_Lista(programma, esito.nome)) return true;
+  if (!Manca_Lista(programma, esito.nome, &esito.errore)) return true;
   for (const Vista precedente : precedenti) {
-    if (!Esiste_Lista(programma, precedente)) continue;
+    if (Manca_Lista(programma, precedente)) continue;
     esito.precedente = precedente;
     return true;
   }
@@ -63,7 +63,7 @@ Lista_Generata Genera_Numeri(Programma& programma) {
   esito.nome = Ultimi_Numeri;
   if (Gia_Provveduto(programma, {"ncv.txt"}, esito)) return esito;
   Leggi_Ultimi_Numeri(programma);
-  if (!Esiste_Lista(programma, Ultimi_Numeri))
+  if (Manca_Lista(programma, Ultimi_Numeri))
     esito.errore = programma.disco.Aggiungi(Percorso_Lista(programma, Ultimi_Numeri), {});
   esito.scritta = esito.errore == 0;
   if (const auto testo = programma.disco.Leggi(Percorso_Lista(programma, Ultimi_Numeri));

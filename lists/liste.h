@@ -32,6 +32,9 @@ inline constexpr Vista Clienti = "_Client32.txt", Clienti_16 = "Clienti.txt",
                        Esclusi = "_Esclusi.txt";
 }
 
+// Labels of catch zones begin with a capital A; "acquacoltura" in small letters is no catch.
+inline bool Zona_Di_Cattura(Vista etichetta) { return etichetta.starts_with('A'); }
+
 void Leggi_Clienti(Programma& programma);
 void Leggi_Fornitori(Programma& programma);
 void Leggi_Specie(Programma& programma);

@@ -35,8 +35,8 @@ void Quick_Sort(std::vector<Testo>& chiavi, std::size_t basso, std::size_t alto)
 
 std::vector<std::size_t> Ordine_Chiavi(std::vector<Testo> chiavi) {
   for (std::size_t i = 0; i < chiavi.size(); ++i) {
-    chiavi[i] += Numero_Riga(i + 1, 6);
     for (char& c : chiavi[i]) c = Minuscola(c);
+    chiavi[i] += Numero_Riga(i + 1, 6);
   }
   std::vector<std::size_t> ordine(chiavi.size());
   std::iota(ordine.begin(), ordine.end(), std::size_t{0});
@@ -48,6 +48,15 @@ std::vector<std::size_t> Ordine_Chiavi(std::vector<Testo> chiavi) {
 Vista Testo_Chiave(const LedgerRow& riga, CampoRiga campo) {
   const Vista testo = riga[campo];
   return campo == CampoRiga::CodiciConsolidare ? Pulito_Destra(testo) : testo;
+}
+
+Testo Davanti_Alla_Chiave(const LedgerRow& riga, CampoRiga campo) {
+  if (campo != CampoRiga::Num) return {};
+  constexpr std::size_t cifre = 4;
+  constexpr char dopo_le_cifre = '9' + 1;
+  const Vista numero = riga[campo];
+  if (numero.size() <= cifre || numero.find_first_not_of("0123456789") != Vista::npos) return {};
+  return Testo(numero.size() - cifre, dopo_le_cifre);
 }
 
 void Ordina_Tabella(Programma& programma, std::span<const CampoRiga> campi) {

@@ -9,8 +9,8 @@
 #include "core/programma.h"
 
 // Sorting. A row's key is the texts of its key columns, each followed by " - ", and the row's number in six
-// digits; keys are compared ignoring case, as texts ("10" stands before "9"). The number at the end makes
-// every key different, so rows that are equal otherwise keep their order.
+// digits; keys are compared ignoring case, as texts ("10" stands before "9"; of Num see Davanti_Alla_Chiave).
+// The number at the end makes every key different, so rows that are equal otherwise keep their order.
 
 // Sorts texts from index `basso` to `alto`, both included, ignoring case; nothing happens unless basso <
 // alto.
@@ -28,14 +28,34 @@ Vista Testo_Chiave(const std::array<Testo, N>& riga, std::size_t colonna) {
   return riga[colonna];
 }
 
-// Puts rows into the order that Ordine_Chiavi gave.
-template <class Riga>
-void Riordina(std::vector<Riga>& righe, const std::vector<std::size_t>& ordine) {
-  std::vector<Riga> nuove;
-  nuove.reserve(righe.size());
-  for (const std::size_t vecchio : ordine) nuove.push_back(std::move(righe[vecchio]));
-  righe = std::move(nuove);
+// What stands in front of a field's text in a key, so that the order of entry holds beyond 9,999 rows: Num
+// has four digits, and a longer number stands behind all of those with fewer. Empty for all other fields and
+// texts.
+Testo Davanti_Alla_Chiave(const LedgerRow& riga, CampoRiga campo);
+template <std::size_t N>
+Vista Davanti_Alla_Chiave(const std::array<Testo, N>&, std::size_t) {
+  return {};
 }
+
+// Puts rows into the order that Ordine_Chiavi gave. They change places where they stand, round by round: each
+// takes the place of the one that goes elsewhere.
+template <class Riga>
+void Riordina(std::vector<Riga>& righe, std::vector<std::size_t> ordine) {
+  for (std::size_t primo = 0; primo < ordine.size(); ++primo) {
+    if (ordine[primo] == primo) continue;
+    Riga in_mano = std::move(righe[primo]);
+    std::size_t qui = primo;
+    for (std::size_t da = ordine[qui]; da != primo; da = ordine[qui]) {
+      righe[qui] = std::move(righe[da]);
+      ordine[qui] = qui;
+      qui = da;
+    }
+    righe[qui] = std::move(in_mano);
+    ordine[qui] = qui;
+  }
+}
+
+inline constexpr std::size_t posto_chiave = 110;  // three names and the row's number: more is rare, and grows
 
 // Sorts any table of rows by the columns given: LedgerRow by CampoRiga, list rows by their columns from 0.
 template <class Riga, class Campo>
@@ -45,7 +65,9 @@ void Ordina_Righe(std::vector<Riga>& righe, std::span<const Campo> campi) {
   chiavi.reserve(righe.size());
   for (const Riga& riga : righe) {
     Testo chiave;
+    chiave.reserve(posto_chiave);
     for (const Campo campo : campi) {
+      chiave += Davanti_Alla_Chiave(riga, campo);
       chiave += Testo_Chiave(riga, campo);
       chiave += " - ";
     }

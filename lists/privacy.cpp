@@ -27,7 +27,7 @@ std::optional<std::vector<Testo>> CaricaPrivacy(Programma& programma) {
   const Percorso file = Unisci_Percorso(programma.Cartella_Dati, File_Privacy);
   Piattaforma& piattaforma = programma.piattaforma;
   int errore = 0;
-  const auto contenuto = programma.disco.Leggi(file, &errore);
+  const auto contenuto = programma.disco.Leggi_Testo(file, &errore);
   if (!contenuto && programma.disco.Esiste_File(file)) {
     piattaforma.Messaggio(Testo_Percorso(file) + "\nnon si legge: " + Testo_Errore(errore));
     return std::nullopt;
@@ -36,12 +36,11 @@ std::optional<std::vector<Testo>> CaricaPrivacy(Programma& programma) {
     piattaforma.Messaggio(Testo_Percorso(file) + " non trovato...abort");
     return std::nullopt;
   }
-  const Vista testo = Senza_Marca(*contenuto);
-  if (Pulito(testo).empty()) {
+  if (Pulito(*contenuto).empty()) {
     piattaforma.Messaggio(Testo_Percorso(file) + "\nè vuoto...manca il testo della lettera"_t);
     return std::nullopt;
   }
-  const std::vector<Vista> righe = Righe(testo);
+  const std::vector<Vista> righe = Righe(*contenuto);
   return std::vector<Testo>(righe.begin(), righe.end());
 }
 

@@ -33,6 +33,13 @@ Testo Senza_Segno(Vista voce) {
   return Testo(Inizia(voce, reintegrato) ? voce.substr(reintegrato.size()) : voce);
 }
 
+// A code with zeros in front to five characters; nothing when it is no number.
+std::optional<Testo> Codice_A_Cinque(const Programma& programma, Vista testo) {
+  const Vista codice = Pulito(testo);
+  if (!Numerico(codice, programma.Separatore_Decimale)) return std::nullopt;
+  return Pad_Sinistra(codice, 5, '0');
+}
+
 }  // namespace
 
 void Prepara_Esclusi(Programma& programma, SchermoEsclusi& schermo) {
@@ -49,12 +56,6 @@ void Prepara_Esclusi(Programma& programma, SchermoEsclusi& schermo) {
   schermo.AiutoDoppioClic.testo = "doppio click per escludere/reintegrare con l'asterisco";
   schermo.codici = Vuota(programma) ? std::vector<Testo>() : programma.Vet_Esclusi;
   Elenco_Cambiato(schermo, -1);
-}
-
-std::optional<Testo> Codice_A_Cinque(const Programma& programma, Vista testo) {
-  const Vista codice = Pulito(testo);
-  if (!Numerico(codice, programma.Separatore_Decimale)) return std::nullopt;
-  return Pad_Sinistra(codice, 5, '0');
 }
 
 void Aggiungi_Escluso(Programma& programma, SchermoEsclusi& schermo) {

@@ -18,9 +18,6 @@ struct SchermoEsclusi {
 
 void Prepara_Esclusi(Programma& programma, SchermoEsclusi& schermo);
 
-// A code with zeros in front to five characters; nothing when it is no number.
-std::optional<Testo> Codice_A_Cinque(const Programma& programma, Vista testo);
-
 void Aggiungi_Escluso(Programma& programma, SchermoEsclusi& schermo);  // the code of Text1
 // "Escludi questo codice" of the entry screen: a code goes onto the open list. False when it is no number.
 bool Escludi_Codice(Programma& programma, SchermoEsclusi& schermo, Vista codice);

@@ -24,7 +24,7 @@ void Leggi_Specie(Programma& programma) {
   }
   const Testo percorso = Testo_Percorso(Percorso_Lista(programma, nomi_file::Specie));
   const Testo assenti = "file: " + percorso + "\ndescriz32.txt   assente\ndescriz.txt     assente\n";
-  if (Esiste_Lista(programma, nomi_file::Pelmoro)) {
+  if (!Manca_Lista(programma, nomi_file::Pelmoro)) {
     programma.piattaforma.Messaggio(assenti + "genero il file di default");
     if (programma.Vet_Pelmoro.empty()) Leggi_Pelmoro(programma);
     programma.Vet_Specie = programma.Vet_Pelmoro;

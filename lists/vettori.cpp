@@ -20,6 +20,6 @@ bool Salva_Vettori(Programma& programma) {
 }
 
 bool Scrivi_Vettori_Predefiniti(Programma& programma) {
-  if (Esiste_Lista(programma, nomi_file::Vettori)) return true;
+  if (!Manca_Lista(programma, nomi_file::Vettori)) return true;
   return Salva_File_Lista(programma, nomi_file::Vettori, Riga_Vettore_Predefinita());
 }

@@ -9,6 +9,7 @@ packages_build=(
   "pkg-config|finds SimpleIni for the build"
   "qt6-base-dev|windows and paper"
   "libsimpleini-dev|the settings file"
+  "libharfbuzz-dev|the parts of the typefaces that a PDF takes in"
 )
 packages_desk=(
   "fonts-liberation|the typefaces of screen and paper, same widths as Arial and Courier New"
@@ -19,8 +20,11 @@ packages_test=(
   "git|lists the files of the project"
   "clang-format|checks the form of the sources"
   "clang-tidy|checks the sources for faults"
+  "locales|what the desks of other languages are made of, on which days are played"
   "qpdf|checks the printed PDFs"
   "poppler-utils|reads texts, positions and fonts of the printed PDFs"
+  "fonts-urw-base35|typefaces with curves of the other kind, which a PDF takes in another way"
+  "valgrind|counts the instructions of what the operator does all night"
 )
 packages_guide=(
   "python3-markdown|makes HTML of the manual's text"

@@ -1,31 +1,61 @@
 #include "platform/aspetto.h"
 
+#include <cmath>
+
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QFocusEvent>
 #include <QGroupBox>
 #include <QPainter>
 #include <QProxyStyle>
+#include <QPushButton>
 #include <QStyleOption>
 
 namespace {
 
 constexpr double visibile = 0.5;  // of the way from the ground to the text
+constexpr int passi = 20;
 
 bool Scura(const QPalette& tavolozza) {
   return tavolozza.color(QPalette::Window).lightness() < tavolozza.color(QPalette::WindowText).lightness();
 }
 
-QColor Fra(const QColor& fondo, const QColor& testo) {
-  const auto mezzo = [](int da, int a) { return static_cast<int>(da + (a - da) * visibile); };
+QColor Fra(const QColor& fondo, const QColor& testo, double parte) {
+  const auto mezzo = [parte](int da, int a) { return static_cast<int>(da + (a - da) * parte); };
   return {mezzo(fondo.red(), testo.red()), mezzo(fondo.green(), testo.green()),
           mezzo(fondo.blue(), testo.blue())};
 }
 
-// The desktop's own style, with outlines where a dark palette would swallow them.
+double Luminosita(const QColor& colore) {
+  const auto lineare = [](double parte) {
+    return parte <= 0.04045 ? parte / 12.92 : std::pow((parte + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * lineare(colore.redF()) + 0.7152 * lineare(colore.greenF()) +
+         0.0722 * lineare(colore.blueF());
+}
+
+bool E_Lista(const QWidget* widget) { return qobject_cast<const QAbstractItemView*>(widget) != nullptr; }
+
+// The desktop's own style, with outlines where a dark palette would swallow them, room around the captions of
+// buttons, and lists that show by their frame that they have the keyboard.
 class Stile_Con_Contorni : public QProxyStyle {
  public:
+  QSize sizeFromContents(ContentsType tipo, const QStyleOption* opzioni, const QSize& contenuto,
+                         const QWidget* widget) const override {
+    const QSize misura = QProxyStyle::sizeFromContents(tipo, opzioni, contenuto, widget);
+    if (tipo != CT_PushButton) return misura;
+    const int lettere = contenuto.width() + 3 * opzioni->fontMetrics.averageCharWidth();
+    return {qMax(misura.width(), lettere), misura.height()};
+  }
+
+  int pixelMetric(PixelMetric quale, const QStyleOption* opzioni, const QWidget* widget) const override {
+    if (quale == PM_DefaultFrameWidth && E_Lista(widget)) return spessore_cornice;
+    return QProxyStyle::pixelMetric(quale, opzioni, widget);
+  }
+
   void drawPrimitive(PrimitiveElement parte, const QStyleOption* opzioni, QPainter* pittore,
                      const QWidget* widget) const override {
+    if (parte == PE_Frame && E_Lista(widget)) return cornice_lista(*opzioni, *pittore, *widget);
     QProxyStyle::drawPrimitive(parte, opzioni, pittore, widget);
     const bool tondo = parte == PE_IndicatorRadioButton;
     const bool quadro = parte == PE_FrameLineEdit || parte == PE_IndicatorCheckBox;
@@ -42,12 +72,59 @@ class Stile_Con_Contorni : public QProxyStyle {
     }
     pittore->restore();
   }
+
+ private:
+  static void cornice_lista(const QStyleOption& opzioni, QPainter& pittore, const QWidget& lista) {
+    const QPalette& tavolozza = opzioni.palette;
+    if (lista.hasFocus()) return pittore.fillRect(opzioni.rect, Colore_Fuoco(tavolozza));
+    pittore.fillRect(opzioni.rect, Colore_Contorno(tavolozza));
+    pittore.fillRect(opzioni.rect.adjusted(1, 1, -1, -1), tavolozza.color(QPalette::Base));
+  }
 };
+
+// Away from the text, step by step, as far as it takes.
+void Stacca(QColor& fondo, const QColor& testo) {
+  const bool scurisci = Luminosita(testo) > Luminosita(fondo);
+  for (int i = 0; i < passi && Contrasto(fondo, testo) < contrasto_scelta; ++i)
+    fondo = scurisci ? fondo.darker(105) : fondo.lighter(105);
+}
+
+// Towards the text of what is enabled.
+void Rafforza(QColor& spento, const QColor& acceso, const QColor& fondo) {
+  for (int i = 1; i <= passi && Contrasto(spento, fondo) < contrasto_spento; ++i)
+    spento = Fra(spento, acceso, static_cast<double>(i) / passi);
+}
 
 }  // namespace
 
+double Contrasto(const QColor& uno, const QColor& altro) {
+  const double a = Luminosita(uno), b = Luminosita(altro);
+  return (qMax(a, b) + 0.05) / (qMin(a, b) + 0.05);
+}
+
+QPalette Leggibile(QPalette tavolozza) {
+  const QColor scelto = tavolozza.color(QPalette::Active, QPalette::HighlightedText);
+  QColor fondo_scelto = tavolozza.color(QPalette::Active, QPalette::Highlight);
+  Stacca(fondo_scelto, scelto);
+  for (const auto gruppo : {QPalette::Active, QPalette::Inactive}) {
+    tavolozza.setColor(gruppo, QPalette::Highlight, fondo_scelto);
+    tavolozza.setColor(gruppo, QPalette::HighlightedText, scelto);
+  }
+  struct Scritta_Spenta {
+    QPalette::ColorRole testo, fondo;
+  };
+  for (const auto& [testo, fondo] : {Scritta_Spenta{QPalette::ButtonText, QPalette::Button},
+                                     Scritta_Spenta{QPalette::WindowText, QPalette::Window}}) {
+    QColor spento = tavolozza.color(QPalette::Disabled, testo);
+    Rafforza(spento, tavolozza.color(QPalette::Active, testo), tavolozza.color(QPalette::Disabled, fondo));
+    tavolozza.setColor(QPalette::Disabled, testo, spento);
+  }
+  return tavolozza;
+}
+
 void Prepara_Aspetto() {
   QApplication::setStyle(new Stile_Con_Contorni);
+  QApplication::setPalette(Leggibile(QApplication::palette()));
   QFont carattere = QApplication::font();
   if (!QFontInfo(carattere).fixedPitch()) return;
   carattere.setFamily(QStringLiteral("Liberation Sans"));
@@ -62,8 +139,13 @@ QFont Carattere(double punti, bool grassetto) {
 }
 
 QColor Colore_Contorno(const QPalette& tavolozza) {
-  if (!Scura(tavolozza)) return tavolozza.color(QPalette::Midlight);
-  return Fra(tavolozza.color(QPalette::Window), tavolozza.color(QPalette::WindowText));
+  if (!Scura(tavolozza)) return tavolozza.color(QPalette::Window).darker(140);
+  return Fra(tavolozza.color(QPalette::Window), tavolozza.color(QPalette::WindowText), visibile);
+}
+
+QColor Colore_Fuoco(const QPalette& tavolozza) {
+  const QColor scelto = tavolozza.color(QPalette::Highlight);
+  return Scura(tavolozza) ? scelto.lighter(150) : scelto;
 }
 
 QGroupBox* Riquadro_Titolato(const QString& titolo) {
@@ -72,11 +154,24 @@ QGroupBox* Riquadro_Titolato(const QString& titolo) {
   return riquadro;
 }
 
+QPushButton* Bottone_Comodo(const QString& nome, const QString& didascalia, QWidget* padre) {
+  auto* bottone = new QPushButton(didascalia, padre);
+  bottone->setObjectName(nome);
+  bottone->setAccessibleName(QString(didascalia).remove(QLatin1Char('&')).trimmed());
+  bottone->setFont(Carattere(punti_normali));
+  bottone->setAutoDefault(true);
+  const QFontMetrics misure = bottone->fontMetrics();
+  bottone->setMinimumHeight(misure.height() * 2);
+  bottone->setMinimumWidth(misure.horizontalAdvance(didascalia) + misure.height() * 3 / 2);
+  return bottone;
+}
+
 QFont Carattere_Fisso(double punti) {
   QFont carattere(QStringLiteral("Liberation Mono"));
   carattere.setStyleHint(QFont::Monospace, QFont::PreferMatch);
   carattere.setFixedPitch(true);
   carattere.setPointSizeF(punti);
+  carattere.setBold(false);  // not the weight of the title it stands under
   carattere.setKerning(false);
   return carattere;
 }
@@ -108,7 +203,7 @@ void CasellaTesto::paintEvent(QPaintEvent* evento) {
   const int spessore = qMax(3, fontMetrics().height() / 7);
   if (tenuta_) pittore.fillRect(QRect(0, 0, spessore, height()), palette().color(QPalette::Mid).darker(130));
   if (!hasFocus()) return;
-  QPen penna(palette().color(QPalette::Highlight), spessore);
+  QPen penna(Colore_Fuoco(palette()), spessore);
   penna.setJoinStyle(Qt::MiterJoin);
   pittore.setPen(penna);
   const int meta = spessore / 2;

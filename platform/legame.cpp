@@ -10,6 +10,7 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 
+#include "platform/tasti_qt.h"
 #include "platform/testo_qt.h"
 
 namespace {
@@ -45,6 +46,24 @@ void Mostra_Didascalia(QAbstractButton* bottone, const Testo& stato) {
   bottone->setAccessibleName(Senza_Scorciatoia(testo));
 }
 
+class Filtro_Invio : public QObject {
+ public:
+  Filtro_Invio(Legame& legame, Legame::Evento evento)
+      : QObject(&legame), legame_(legame), evento_(std::move(evento)) {}
+
+  bool eventFilter(QObject*, QEvent* evento) override {
+    if (evento->type() != QEvent::KeyPress) return false;
+    const Pressione pressione = Da_QKeyEvent(*static_cast<QKeyEvent*>(evento));
+    if (pressione.tasto != Tasto::Invio || !pressione.Nudo()) return false;
+    legame_.esegui(evento_);
+    return true;
+  }
+
+ private:
+  Legame& legame_;
+  Legame::Evento evento_;
+};
+
 }  // namespace
 
 void Seleziona_Tutto(QLineEdit* campo) {
@@ -53,6 +72,8 @@ void Seleziona_Tutto(QLineEdit* campo) {
 }
 
 void Mostra_Sfondo(QWidget* widget, const std::optional<Colore>& sfondo) {
+  if (!sfondo && !widget->testAttribute(Qt::WA_SetPalette))
+    return;  // never painted: looking a property up takes long
   const bool dipinto = widget->property("sfondo").isValid();
   if (!sfondo) {
     if (!dipinto) return;
@@ -85,6 +106,13 @@ ModelloElenco::ModelloElenco(const Elenco& elenco, QObject* padre)
       righe_(static_cast<int>(elenco.Numero())) {}
 
 int ModelloElenco::rowCount(const QModelIndex& padre) const { return padre.isValid() ? 0 : righe_; }
+
+// A view asks for every line when it lays them out; the toolkit's own way would count rows and columns each
+// time.
+QModelIndex ModelloElenco::index(int riga, int colonna, const QModelIndex& padre) const {
+  const bool c_e = riga >= 0 && riga < righe_ && colonna == 0 && !padre.isValid();
+  return c_e ? createIndex(riga, colonna) : QModelIndex();
+}
 
 QVariant ModelloElenco::data(const QModelIndex& indice, int ruolo) const {
   if (!indice.isValid() || (ruolo != Qt::DisplayRole && ruolo != Qt::EditRole)) return {};
@@ -119,6 +147,12 @@ void Legame::esegui(const Evento& evento) {
   if (!vivo) return;  // the event has closed the screen
   --profondita_;
   mostra_schermo_();
+}
+
+bool Legame::usa(const std::function<bool()>& evento) {
+  bool usato = false;
+  esegui([&] { usato = evento(); });
+  return usato;
 }
 
 void Legame::mostra() {
@@ -173,6 +207,8 @@ void Legame::lega(QAction* voce, const QString& nome, Bottone& stato, Evento eve
 }
 
 void Legame::lega(QLabel* scritta, const QString& nome, Scritta& stato) {
+  // A customer's name that looks like markup must not fetch a picture from anywhere.
+  scritta->setTextFormat(Qt::PlainText);
   al_widget(scritta, nome, stato);
   voci_.emplace_back([scritta, &stato] {
     const QString testo = In_QString(stato.testo);
@@ -229,3 +265,12 @@ void Legame::lega(QAbstractSlider* cursore, const QString& nome, Cursore& stato,
 }
 
 void Legame::lega(QWidget* widget, const QString& nome, Controllo& stato) { al_widget(widget, nome, stato); }
+
+void Legame::invio(QWidget* widget, Evento evento) {
+  widget->installEventFilter(new Filtro_Invio(*this, std::move(evento)));
+}
+
+void Legame::scelta(QListView* elenco, Evento evento) {
+  connect(elenco, &QListView::doubleClicked, this, [this, evento] { esegui(evento); });
+  invio(elenco, std::move(evento));
+}

@@ -24,6 +24,7 @@ class ModelloElenco : public QAbstractListModel {
  public:
   explicit ModelloElenco(const Elenco& elenco, QObject* padre = nullptr);
   int rowCount(const QModelIndex& padre = {}) const override;
+  QModelIndex index(int riga, int colonna = 0, const QModelIndex& padre = {}) const override;
   QVariant data(const QModelIndex& indice, int ruolo) const override;
   void aggiorna();  // after a change of the list; the views keep their place
 
@@ -55,8 +56,13 @@ class Legame : public QObject {
   void lega(QAbstractSlider* cursore, const QString& nome, Cursore& stato, Evento evento = {});
   void lega(QWidget* widget, const QString& nome, Controllo& stato);
 
+  void invio(QWidget* widget, Evento evento);     // Enter in that control
+  void scelta(QListView* elenco, Evento evento);  // Enter or a double click in that list
+
   // Any other toolkit event of the screen: calls it, then shows the state.
   void esegui(const Evento& evento);
+  // The same for a routine that says whether it has used what came.
+  bool usa(const std::function<bool()>& evento);
 
   void mostra();  // writes what differs from the state
   bool in_mostra() const { return mostrando_; }

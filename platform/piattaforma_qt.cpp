@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include <QApplication>
 #include <QClipboard>
@@ -24,6 +25,7 @@
 
 #include "platform/aspetto.h"
 #include "platform/finestra.h"
+#include "platform/interruzione.h"
 #include "platform/testo_qt.h"
 #include "printing/dispositivo.h"
 
@@ -33,6 +35,7 @@ namespace {
 constexpr qint64 ms_fra_ridipinture = 30;
 constexpr qint64 ms_lavoro_lungo = 300;  // less is typing ahead, which counts
 constexpr double punti_messaggio = 13;
+constexpr std::size_t massimo_aperti = 5;  // viewers at a time
 
 QString Titolo(const Testo& titolo) {
   return titolo.empty() ? QStringLiteral("Prima Nota") : In_QString(titolo);
@@ -52,33 +55,6 @@ QMessageBox::Icon In_Icona(Icona icona) {
       break;
   }
   return QMessageBox::NoIcon;
-}
-
-// Takes what comes from keyboard and mouse, so that no window gets it.
-class Mangia_Tasti : public QObject {
- public:
-  Mangia_Tasti() { QCoreApplication::instance()->installEventFilter(this); }
-  bool eventFilter(QObject*, QEvent* evento) override {
-    switch (evento->type()) {
-      case QEvent::KeyPress:
-      case QEvent::KeyRelease:
-      case QEvent::ShortcutOverride:
-      case QEvent::Shortcut:
-      case QEvent::MouseButtonPress:
-      case QEvent::MouseButtonRelease:
-      case QEvent::MouseButtonDblClick:
-      case QEvent::Wheel:
-        return true;
-      default:
-        return false;
-    }
-  }
-};
-
-// What was keyed until now reaches nobody.
-void Butta_Tasti() {
-  const Mangia_Tasti mangia;
-  QCoreApplication::processEvents();
 }
 
 // The pointer is the normal one while a message stands, also in the midst of a long job.
@@ -147,6 +123,7 @@ std::optional<Testo> Piattaforma_Qt::Chiedi(const Testo& testo, const Testo& tit
   box.setFont(Carattere(punti_messaggio));
   box.setWindowTitle(Titolo(titolo));
   box.setLabelText(In_QString(testo));
+  for (QLabel* scritta : box.findChildren<QLabel*>()) scritta->setTextFormat(Qt::PlainText);
   box.setTextValue(In_QString(proposta));
   box.setOkButtonText(QStringLiteral("OK"));
   box.setCancelButtonText(QStringLiteral("Annulla"));
@@ -160,6 +137,13 @@ void Piattaforma_Qt::Ridipingi() {
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   ultima_ridipintura_.start();
   if (occupato_da_.isValid() && occupato_da_.elapsed() > ms_lavoro_lungo) lavoro_lungo_ = true;
+}
+
+// The Esc of somebody who types ahead, for when the command is done, stays in the queue for a while.
+bool Piattaforma_Qt::Vuole_Fermare() {
+  Ridipingi();
+  if (occupato_da_.isValid() && occupato_da_.elapsed() <= ms_lavoro_lungo) return false;
+  return Esc_Premuto();
 }
 
 void Piattaforma_Qt::Attendi(double secondi) {
@@ -182,6 +166,14 @@ void Piattaforma_Qt::Occupato(bool si) {
   lavoro_lungo_ = false;
   occupato_da_.invalidate();
   QApplication::restoreOverrideCursor();
+  const auto finiti = std::exchange(finiti_, {});
+  if (finiti.size() > massimo_aperti) return Apri_Con_Desktop(finiti.back().parent_path());
+  for (const Percorso& file : finiti) Apri_Con_Desktop(file);
+}
+
+void Piattaforma_Qt::Mostra_Finito(const Percorso& file) {
+  if (QApplication::overrideCursor() == nullptr) return Apri_Con_Desktop(file);
+  finiti_.push_back(file);
 }
 
 Data Piattaforma_Qt::Oggi() {

@@ -3,6 +3,10 @@
 #include <array>
 #include <utility>
 
+#include <QLineEdit>
+
+#include "platform/testo_qt.h"
+
 namespace {
 
 constexpr std::array<std::pair<int, Tasto>, 16> tasti = {{{Qt::Key_Return, Tasto::Invio},
@@ -36,4 +40,22 @@ Pressione Da_QKeyEvent(const QKeyEvent& evento) {
   const auto modi = evento.modifiers();
   return {Da_Codice(evento.key()), modi.testFlag(Qt::ShiftModifier), modi.testFlag(Qt::ControlModifier),
           modi.testFlag(Qt::AltModifier)};
+}
+
+Testo Testo_Che_Resta(const QLineEdit& campo) {
+  QString resta = campo.text();
+  if (campo.hasSelectedText()) resta.remove(campo.selectionStart(), campo.selectedText().size());
+  return Da_QString(resta);
+}
+
+bool Batti_Carattere(QLineEdit& campo, const QKeyEvent& evento, const Filtro_Carattere& filtro) {
+  const QString testo = evento.text();
+  if (testo.size() != 1 || !testo[0].isPrint() ||
+      (evento.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0)
+    return false;
+  const char battuto = Da_QString(testo)[0];
+  const auto entra = filtro(battuto, Testo_Che_Resta(campo));
+  if (entra == battuto) return false;
+  if (entra) campo.insert(In_QString(Testo(1, *entra)));
+  return true;
 }

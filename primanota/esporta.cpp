@@ -1,6 +1,7 @@
 #include "primanota/esporta.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cmath>
 #include <set>
 
@@ -62,9 +63,14 @@ bool Coi_Numeri(const LedgerRow& riga, char separatore) {
   return Numerico(riga[CampoRiga::Peso], separatore) && Numerico(riga[CampoRiga::Prezzo], separatore);
 }
 
-// 0, or the errno of a file that can't be deleted, with its path.
+// 0, or the errno of a file that can't be deleted or of the folder, with its path.
 int Vuota_Cartella(const Programma& programma, const Percorso& cartella, Percorso& rimasto) {
-  for (const Percorso& nome : programma.disco.Elenca(cartella, "*")) {
+  rimasto = cartella;
+  if (programma.disco.E_Collegamento(cartella)) return ELOOP;
+  int illeggibile = 0;
+  const auto nomi = programma.disco.Elenca(cartella, "*", &illeggibile);
+  if (!nomi) return illeggibile;
+  for (const Percorso& nome : *nomi) {
     rimasto = cartella / nome;
     if (const int errore = programma.disco.Cancella(rimasto)) return errore;
   }
@@ -225,16 +231,4 @@ bool EsportaPrimaNota(Programma& programma, bool taglia_zona, const Scelta_Drive
   Di_Senza_Numero(programma, esito.senza_numero);
   Mostra_File(programma, file);
   return true;
-}
-
-Testo AiutoEsportazione(const Programma& programma) {
-  return "Il file da trasmettere alla Veritas (per eleborare le statistiche):\n"
-         "viene salvato nella cartella:\n" +
-         Testo_Percorso(programma.Cartella_Dati) +
-         "\\xVeritas\n"
-         "è presente solo l'ultimo file creato, tutti gli altri file \n"
-         "eventualmente presenti vengono cancellati\n"
-         "Il separatore di campo è ; (punto e virgola) e non può essere cambiato.\n"
-         "Se si sceglie una destinazione diversa (per esempio una chiavetta USB)\n"
-         "il file viene salvato nella radice del disco (per esempio d:\\ )"_t;
 }

@@ -39,4 +39,3 @@ Percorso CartellaEsportazione(const Programma& programma);
 // Empties the folder, asks for the destination and writes the file; tells what came of it. `scegli` asks for
 // the drive; without it the file goes into the folder. True when the file was written.
 bool EsportaPrimaNota(Programma& programma, bool taglia_zona, const Scelta_Drive& scegli);
-Testo AiutoEsportazione(const Programma& programma);

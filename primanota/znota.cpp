@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/corsa.h"
 #include "core/impegno.h"
 #include "core/numeri.h"
+#include "lists/aiuto_esportazione.h"
 #include "primanota/esporta.h"
 #include "primanota/nota.h"
 #include "primanota/stampa_nota.h"
@@ -95,39 +97,50 @@ void Prepara_Righe(const Programma& programma, Znota& znota) {
   for (const Cliente_Lasciato& escluso : trovati) programma.piattaforma.Messaggio("trovato " + escluso.Nome);
 }
 
-void Stampa_Tutto(Programma& programma, Znota& znota) {
-  znota.Text1[1].testo = "Tutto...";
-  OrdinaNota(znota.Vet_Nota, znota.Ordina_Specie.segnata);
-  for (int copia = Numero_Copie(programma, znota); copia > 0; --copia)
-    StampaNota(programma, znota, znota.Vet_Nota, tutto);
+// One document, and counted in the run; without a row there is none.
+void Stampa_Una(Programma& programma, Znota& znota, Corsa& corsa, const std::vector<LedgerRow>& righe,
+                Vista chiave) {
+  StampaNota(programma, znota, righe, chiave);
+  if (!righe.empty()) corsa.Fatta();
 }
 
-void Stampa_Nota_Selezionata(Programma& programma, Znota& znota) {
+void Stampa_Tutto(Programma& programma, Znota& znota, Corsa& corsa) {
+  znota.Text1[1].testo = "Tutto...";
+  OrdinaNota(znota.Vet_Nota, znota.Ordina_Specie.segnata);
+  for (int copia = Numero_Copie(programma, znota); copia > 0 && corsa.Avanti(); --copia)
+    Stampa_Una(programma, znota, corsa, znota.Vet_Nota, tutto);
+}
+
+void Stampa_Nota_Selezionata(Programma& programma, Znota& znota, Corsa& corsa) {
   const Nota* nota = Nota_Scelta(znota);
   if (nota == nullptr) return;
   Mostra_Avanzamento(programma, znota, "Eleborazione in corso ... ");
   std::vector<LedgerRow> righe = RigheDellaNota(znota.Vet_Nota, *nota, programma.preferenze.FlagC3pn);
   OrdinaNota(righe, znota.Ordina_Specie.segnata);
-  StampaNota(programma, znota, righe, "");
+  Stampa_Una(programma, znota, corsa, righe, "");
 }
 
-void Stampa_Tutte(Programma& programma, Znota& znota) {
+void Stampa_Tutte(Programma& programma, Znota& znota, Corsa& corsa) {
   for (int copia = Numero_Copie(programma, znota); copia > 0; --copia) {
-    for (std::size_t i = 0; i < znota.note.size(); ++i) {
+    for (std::size_t i = 0; i < znota.note.size() && corsa.Avanti(); ++i) {
       znota.ListaNote.scelta = static_cast<int>(i);
       SceltaNota(znota);
-      Stampa_Nota_Selezionata(programma, znota);
+      Stampa_Nota_Selezionata(programma, znota, corsa);
     }
   }
 }
 
-void Stampa_Scelta(Programma& programma, Znota& znota) {
+void Stampa_Scelta(Programma& programma, Znota& znota, Corsa& corsa) {
   if (Nota_Scelta(znota) == nullptr) {
     programma.piattaforma.Messaggio("Scegliere un cliente sulla lista e ridare il comando");
     return;
   }
-  for (int copia = Numero_Copie(programma, znota); copia > 0; --copia)
-    Stampa_Nota_Selezionata(programma, znota);
+  for (int copia = Numero_Copie(programma, znota); copia > 0 && corsa.Avanti(); --copia)
+    Stampa_Nota_Selezionata(programma, znota, corsa);
+}
+
+bool Una_Per_Nota(const Znota& znota) {
+  return znota.Tutte_Le_Note.segnata && !znota.Unico_Documento.segnata;
 }
 
 }  // namespace
@@ -178,7 +191,8 @@ void MostraEsclusi(const Programma& programma, Znota& znota) {
 
 void MostraAiutoEsportazione(const Programma& programma, Znota& znota) {
   if (!znota.attiva) return;
-  programma.piattaforma.Messaggio(AiutoEsportazione(programma), Icona::Informazione);
+  programma.piattaforma.Messaggio(Aiuto_Esportazione(Testo_Percorso(programma.Cartella_Dati)),
+                                  Icona::Informazione);
 }
 
 bool TastoNote(Programma& programma, Znota& znota, const Pressione& pressione) {
@@ -203,20 +217,26 @@ bool TastoNote(Programma& programma, Znota& znota, const Pressione& pressione) {
 
 void StampaNote(Programma& programma, Znota& znota) {
   if (!znota.attiva) return;
+  Corsa corsa(programma.piattaforma, Una_Per_Nota(znota) ? znota.note.size() : 1,
+              Numero_Copie(programma, znota));
   {
     const auto fermo = Ferma(programma, znota);
     const Clessidra clessidra(programma.piattaforma);
     Prepara_Righe(programma, znota);
     if (znota.Unico_Documento.segnata)
-      Stampa_Tutto(programma, znota);
+      Stampa_Tutto(programma, znota, corsa);
     else if (znota.Tutte_Le_Note.segnata)
-      Stampa_Tutte(programma, znota);
+      Stampa_Tutte(programma, znota, corsa);
     else
-      Stampa_Scelta(programma, znota);
+      Stampa_Scelta(programma, znota, corsa);
     znota.Vet_Nota.clear();
   }
   SceltaNota(znota);
   znota.titolo = Titolo(programma, znota);
+  if (!corsa.Fermata()) return;
+  const auto fermo = Ferma(programma, znota);
+  programma.piattaforma.Messaggio(corsa.Testo_Fermata({"Stampa interrotta", "nota", "note"}),
+                                  Icona::Informazione);
 }
 
 void StampaNota(Programma& programma, Znota& znota, const std::vector<LedgerRow>& righe, Vista chiave) {

@@ -121,6 +121,14 @@ bool Printer::EndDoc() {
   return Finisci_Documento();
 }
 
+bool Printer::Abbandona() {
+  mancato_.reset();
+  if (!aperto_) return true;
+  aperto_ = false;
+  CurrentX = CurrentY = 0;
+  return Abbandona_Documento();
+}
+
 bool Printer::Scegli(const Testo& nome, int orientamento) {
   if (aperto_ || !Prendi_Stampante(nome)) return false;
   mancato_.reset();

@@ -108,6 +108,8 @@ class Printer {
   void NewPage();
   // False where nothing came out: no printer, or a PDF that couldn't be written. The device has told it.
   bool EndDoc();
+  // Ends the document without what hasn't come out yet: a PDF isn't written. True where nothing came out.
+  bool Abbandona();
 
   // ---- the choice of the printer
   virtual std::vector<Testo> Stampanti() = 0;  // names, "PDF" always among them
@@ -127,6 +129,7 @@ class Printer {
   virtual bool Inizia_Documento() = 0;
   virtual void Inizia_Pagina(int pagina, int orientamento) = 0;  // from 1; the first one too
   virtual bool Finisci_Documento() = 0;                          // false: the document is lost
+  virtual bool Abbandona_Documento() = 0;                        // true: nothing of it came out
   // Within a page. The position of a text is the top left corner of its line.
   virtual void Disegna(double x, double y, const Carattere_Stampa& carattere, Vista testo) = 0;
   virtual void Disegna(const Segno& segno) = 0;

@@ -1,10 +1,14 @@
 #include "printing/nomi_stampe.h"
 
 #include <array>
+#include <cerrno>
 
 namespace {
 
 constexpr std::size_t lunghezza_massima = 120;
+// File systems count bytes and take 255; letters outside ASCII have two or three. The rest is for a number
+// and the extension.
+constexpr std::size_t byte_massimi = 230;
 
 // No desktop takes these in a file name, or a name that begins or ends with a dot.
 constexpr Vista vietati = "/\\:*?\"<>|";
@@ -43,7 +47,9 @@ Testo Nome_Stampa(const Documento& documento) {
     if (pezzo.empty()) continue;
     esito += (esito.empty() ? "" : " ") + pezzo;
   }
-  esito = Pulito(Sinistra(esito, lunghezza_massima));
+  esito = Sinistra(esito, lunghezza_massima);
+  while (In_Utf8(esito).size() > byte_massimi) esito.pop_back();
+  esito = Pulito(esito);
   for (char* bordo : {&esito.front(), &esito.back()})
     if (*bordo == '.') *bordo = '-';
   return esito;
@@ -68,8 +74,9 @@ void Nomi_Stampe::Leggi(const Disco& disco, const Percorso& cartella) {
   cartella_ = cartella;
   cambiata_ = cambiata;
   presi_.clear();
-  for (const Percorso& nome : disco.Elenca(cartella, "*.pdf")) presi_.insert(Piccolo(nome));
-  for (const Percorso& nome : disco.Elenca_Cartelle(cartella)) presi_.insert(Piccolo(nome));
+  // Of a folder that can't be read no name is known to be taken; what stands there is written over by nobody.
+  for (const auto& nomi : {disco.Elenca(cartella, "*.pdf"), disco.Elenca_Cartelle(cartella)})
+    for (const Percorso& nome : nomi.value_or(std::vector<Percorso>())) presi_.insert(Piccolo(nome));
 }
 
 Percorso Nomi_Stampe::Libero(const Disco& disco, const Percorso& cartella, const Documento& documento) {
@@ -81,7 +88,17 @@ Percorso Nomi_Stampe::Libero(const Disco& disco, const Percorso& cartella, const
   return file;
 }
 
-void Nomi_Stampe::Scritto(const Disco& disco, const Percorso& file) {
+int Nomi_Stampe::Scrivi(const Disco& disco, const Percorso& cartella, const Documento& documento,
+                        Vista contenuto, Percorso& file) {
+  file = Libero(disco, cartella, documento);
+  int errore = disco.Scrivi_Nuovo(file, contenuto);
+  if (errore == EEXIST) {  // somebody else's, of this very moment
+    *this = {};
+    file = Libero(disco, cartella, documento);
+    errore = disco.Scrivi_Nuovo(file, contenuto);
+  }
+  if (errore != 0) return errore;
   presi_.insert(Piccolo(file.filename()));
   cambiata_ = disco.Cambiata(cartella_);
+  return 0;
 }

@@ -27,7 +27,9 @@ Percorso File_Stampa(const Disco& disco, const Percorso& cartella, const Documen
 class Nomi_Stampe {
  public:
   Percorso Libero(const Disco& disco, const Percorso& cartella, const Documento& documento);
-  void Scritto(const Disco& disco, const Percorso& file);  // what Libero gave has become a file
+  // Makes the document's file under the name that Libero gives: 0, or the errno of what failed.
+  int Scrivi(const Disco& disco, const Percorso& cartella, const Documento& documento, Vista contenuto,
+             Percorso& file);
 
  private:
   void Leggi(const Disco& disco, const Percorso& cartella);

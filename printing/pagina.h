@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "core/programma.h"
 #include "printing/dispositivo.h"
 
@@ -8,6 +10,9 @@
 // the layout wants one and call Due_Pause; PreparaPagina twice; count the pages (Pagine_Di); for each page
 // put Pagina_In_Corso into the screen's caption, draw, and NewPage but after the last one; EndDoc; the
 // screen's own caption again. Copies are the whole document once more.
+
+// Gets the caption for the screen that prints or writes, each time it changes.
+using Avanzamento = std::function<void(const Testo& titolo)>;
 
 inline Printer& Dispositivo(const Programma& programma) { return programma.piattaforma.Dispositivo(); }
 

@@ -2,6 +2,9 @@
 
 #include <cmath>
 
+#include "core/corsa.h"
+#include "core/impegno.h"
+
 namespace {
 
 constexpr float margine = 10;  // of the sheet, beside the borders of the settings
@@ -75,6 +78,17 @@ void Stampa_Pagina(Printer& printer, const Foglio_Di_Righe& foglio, const Impagi
   }
 }
 
+void Stampa_Seguito(Printer& printer, const Foglio_Di_Righe& foglio, const Impaginazione& carta) {
+  StampaTesto(printer, carta.sinistra, carta.Riga(carta.righe_testa + carta.righe_per_pagina + 1),
+              "Continua ...", foglio.carattere, carta.punti, false);
+}
+
+// A list that was stopped: of a PDF there is nothing, a printer takes back none of the pages drawn.
+void Lascia(Piattaforma& piattaforma, Printer& printer, Corsa& corsa, int disegnate) {
+  if (!printer.Abbandona()) corsa.Fatta(static_cast<std::size_t>(disegnate));
+  piattaforma.Messaggio(corsa.Testo_Fermata({"Stampa interrotta", "pagina", "pagine"}), Icona::Informazione);
+}
+
 }  // namespace
 
 void Stampa_Righe(Programma& programma, const Foglio_Di_Righe& foglio, Testo& titolo) {
@@ -82,21 +96,25 @@ void Stampa_Righe(Programma& programma, const Foglio_Di_Righe& foglio, Testo& ti
   Printer& printer = Dispositivo(programma);
   const Testo titolo_normale = titolo;
   printer.documento = foglio.documento;
+  const Clessidra clessidra(programma.piattaforma);
   PreparaPagina(programma);
   PreparaPagina(programma);
   printer.FontItalic = false;
   const Impaginazione carta = Misura(programma, printer, foglio);
   const int pagine = Pagine_Di(static_cast<int>(foglio.righe.size()), carta.righe_per_pagina);
-  for (int pagina = 1; pagina <= pagine; ++pagina) {
-    titolo = Pagina_In_Corso(foglio.codice, pagina, pagine);
+  Corsa corsa(programma.piattaforma, static_cast<std::size_t>(pagine));
+  int disegnate = 0;
+  for (; disegnate < pagine && corsa.Avanti(); ++disegnate) {
+    if (disegnate > 0) printer.NewPage();
+    titolo = Pagina_In_Corso(foglio.codice, disegnate + 1, pagine);
     programma.piattaforma.Ridipingi();
-    Stampa_Testa(printer, foglio, carta, pagina, pagine);
-    Stampa_Pagina(printer, foglio, carta, pagina);
-    if (pagina == pagine) break;
-    StampaTesto(printer, carta.sinistra, carta.Riga(carta.righe_testa + carta.righe_per_pagina + 1),
-                "Continua ...", foglio.carattere, carta.punti, false);
-    printer.NewPage();
+    Stampa_Testa(printer, foglio, carta, disegnate + 1, pagine);
+    Stampa_Pagina(printer, foglio, carta, disegnate + 1);
+    if (disegnate + 1 < pagine) Stampa_Seguito(printer, foglio, carta);
   }
-  printer.EndDoc();
   titolo = titolo_normale;
+  if (corsa.Fermata())
+    Lascia(programma.piattaforma, printer, corsa, disegnate);
+  else
+    printer.EndDoc();
 }

@@ -22,5 +22,5 @@ struct Foglio_Di_Righe {
 // Prints on the chosen printer as its paper lies, in the size of the settings or, where a line is wider than
 // the sheet, in the largest smaller one that lets it in; what is too wide for 6 points is cut. `titolo` is
 // the caption of the screen that asks, which tells the page in work meanwhile. Without lines nothing is
-// printed.
+// printed. Esc stops it between two pages, which is told; a PDF is then not written.
 void Stampa_Righe(Programma& programma, const Foglio_Di_Righe& foglio, Testo& titolo);

@@ -111,6 +111,11 @@ bool Registratore::Finisci_Documento() {
   return true;
 }
 
+bool Registratore::Abbandona_Documento() {
+  registro_.righe.emplace_back("abbandonato");
+  return true;
+}
+
 void Registratore::Scrivi(Vista cosa) {
   registro_.righe.push_back("p" + std::to_string(pagina_) + " " + Testo(cosa));
 }

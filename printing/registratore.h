@@ -20,7 +20,7 @@ struct Registro_Pagine {
 //   p1 ellisse 146.00 8.00 11.00 3.30 penna 10 #000000     centre, the two radii
 //   p1 arco 100.00 50.00 11.00 3.30 da 0.00 a 3.14 penna 1 #000000   between two angles
 //   p1 immagine 10.00 20.00 190.00 130.00 1200x700     a picture: two opposite corners, its points
-//   fine
+//   fine                                               or "abbandonato", where nothing comes out
 //
 // Millimetres from the printable area's corner, always with two decimals and a point. Sizes are in points
 // with as many decimals as they have. The style is nothing, "grassetto", "corsivo" or both. A text stands as
@@ -50,6 +50,7 @@ class Registratore : public Printer {
   bool Inizia_Documento() override;
   void Inizia_Pagina(int pagina, int orientamento) override;
   bool Finisci_Documento() override;
+  bool Abbandona_Documento() override;
   void Disegna(double x, double y, const Carattere_Stampa& carattere, Vista testo) override;
   void Disegna(const Segno& segno) override;
   void Disegna(const Ovale& ovale) override;

@@ -186,8 +186,9 @@ void ApplicaEChiudi(const Programma& programma, FrmStampaFCPB& schermo) {
   schermo.chiusa = true;
 }
 
-void LasciaStampante(const Programma& programma, const FrmStampaFCPB& schermo) {
-  if (schermo.chiusa || schermo.cboPrinterNames.Scelta() == schermo.stampante_prima) return;
+void LasciaStampante(const Programma& programma, FrmStampaFCPB& schermo) {
+  if (std::exchange(schermo.chiusa, true) || schermo.cboPrinterNames.Scelta() == schermo.stampante_prima)
+    return;
   // one that is gone meanwhile can't come back
   Dispositivo(programma).Scegli(schermo.stampante_prima, schermo.orientamento_prima);
 }

@@ -47,4 +47,4 @@ void RiprendiDaProprieta(const Programma& programma, FrmStampaFCPB& schermo);
 void Print_FCPB(const Programma& programma, FrmStampaFCPB& schermo);
 void ApplicaEChiudi(const Programma& programma, FrmStampaFCPB& schermo);  // cmdChiudi
 // Closed without cmdChiudi: the printer chosen for the picture doesn't stay that of the program.
-void LasciaStampante(const Programma& programma, const FrmStampaFCPB& schermo);
+void LasciaStampante(const Programma& programma, FrmStampaFCPB& schermo);

@@ -34,13 +34,15 @@ Percorso Nella_Cartella(const Programma& programma, Vista nome) {
   return Unisci_Percorso(programma.Cartella_Dati, nome);
 }
 
+// True too where the disk doesn't say: nothing is made anew then.
 bool C_E(const Programma& programma, Vista nome) {
-  return programma.disco.Esiste_File(Nella_Cartella(programma, nome));
+  return !programma.disco.Manca_File(Nella_Cartella(programma, nome));
 }
 
 // Tried with a file of its own, since a folder's rights say little on shares, sticks and read-only mounts.
 int Errore_Scrittura_Cartella(const Programma& programma) {
   const Percorso prova = Nella_Cartella(programma, ".velmara_scrittura");
+  programma.disco.Cancella(prova);  // whatever stands there: a link would be refused, with a wrong reason
   const int errore = programma.disco.Sovrascrivi(prova, "\r\n");
   if (errore == 0) programma.disco.Cancella(prova);
   return errore;
@@ -51,7 +53,9 @@ int Errore_Scrittura_Cartella(const Programma& programma) {
 void Togli_Resti(const Programma& programma) {
   const Disco& disco = programma.disco;
   disco.Togli_Provvisori(programma.Cartella_Dati);
-  for (const Percorso& nome : disco.Elenca_Cartelle(programma.Cartella_Dati))
+  // Without the list of folders what lies in them stays: it did no harm so far.
+  for (const Percorso& nome :
+       disco.Elenca_Cartelle(programma.Cartella_Dati).value_or(std::vector<Percorso>()))
     disco.Togli_Provvisori(programma.Cartella_Dati / nome);
 }
 
@@ -84,10 +88,15 @@ void Fissa_Valori(Programma& programma, const Percorso& cartella) {
   programma.File_Ini = Nella_Cartella(programma, File_Ini_Attuale);
 }
 
+// Whether the folder has neither _2020_RAGIONE.txt nor RAGIONE.txt.
+bool Serve_Primo_Avvio(const Programma& programma) {
+  return !C_E(programma, Ragione_Attuale) && !C_E(programma, Ragione_Precedente);
+}
+
 void Prepara_Impostazioni(Programma& programma, bool scrivibile,
                           const std::function<std::optional<PrimoAvvio>()>& chiedi) {
   const Percorso precedente = Nella_Cartella(programma, File_Ini_Precedente);
-  if (!programma.disco.Esiste_File(programma.File_Ini) && programma.disco.Esiste_File(precedente)) {
+  if (programma.disco.Manca_File(programma.File_Ini) && programma.disco.Esiste_File(precedente)) {
     const int errore = programma.disco.Copia(precedente, programma.File_Ini);
     if (errore != 0 && scrivibile) Messaggio_Non_Scritto(programma, programma.File_Ini, errore);
   }
@@ -96,10 +105,8 @@ void Prepara_Impostazioni(Programma& programma, bool scrivibile,
     Scrivi_Primo_Avvio(programma, chiedi().value_or(PrimoAvvio{}));
 
   Leggi_Preferenze(programma);
-  Preferenze& preferenze = programma.preferenze;
-  if (Valore(preferenze.Codice_Commissionario, programma.Separatore_Decimale) < 5)
-    preferenze.FlagCopiaNPinCommento = false;
-  preferenze.FlagColonneListaVoci = "NOTA";
+  Limita_Per_Codice(programma);
+  programma.preferenze.FlagColonneListaVoci = "NOTA";
 }
 
 void Copia_Specie_Precedente(Programma& programma) {
@@ -124,13 +131,13 @@ void Rinnova_Liste(Programma& programma) {
 void Leggi_Ragione(Programma& programma) {
   const Percorso file = Nella_Cartella(programma, Ragione_Attuale);
   int errore = 0;
-  const Testo contenuto = programma.disco.Leggi(file, &errore).value_or(Testo());
+  const Testo contenuto = programma.disco.Leggi_Testo(file, &errore).value_or(Testo());
   // Documents without the firm's name would go out unnoticed.
   if (errore != 0 && errore != ENOENT)
     programma.piattaforma.Messaggio(
         "L'intestazione della ditta non si può leggere: i documenti ne sono senza\n"_t +
         Testo_Percorso(file) + "\n" + Testo_Errore(errore));
-  const std::vector<Vista> righe = Righe(Senza_Marca(contenuto));
+  const std::vector<Vista> righe = Righe(contenuto);
   for (std::size_t i = 0; i < programma.Ragione.size(); ++i)
     programma.Ragione[i] = i < righe.size() ? Testo(righe[i]) : Testo();
 }
@@ -138,6 +145,22 @@ void Leggi_Ragione(Programma& programma) {
 void Scrivi_Predefiniti(Programma& programma) {
   if (!C_E(programma, nomi_file::Fornitori)) Scrivi_Fornitori_Predefiniti(programma);
   if (!C_E(programma, nomi_file::Vettori)) Scrivi_Vettori_Predefiniti(programma);
+}
+
+// Starts the list generator; where it is missing the program does its work itself. Then the program ends.
+void Lancia_Generatore(Programma& programma) {
+  // In a folder without write permission the generator would write nothing and start this program again, for
+  // ever.
+  const auto generatore = Trova_Programma(programma, Generatore);
+  if (generatore && Errore_Scrittura_Cartella(programma) == 0 &&
+      programma.piattaforma.Avvia_Programma(*generatore))
+    return;
+  Testo mancanti;
+  for (const Lista_Generata& lista : Genera_Liste(programma))
+    if (lista.errore != 0) mancanti += "\n" + lista.nome + ": " + Testo_Errore(lista.errore);
+  if (!mancanti.empty())
+    programma.piattaforma.Messaggio("Non si possono scrivere questi file in " +
+                                    Testo_Percorso(programma.Cartella_Dati) + mancanti);
 }
 
 // Lists, letterhead, folders and last numbers; false when the program must end.
@@ -187,8 +210,12 @@ EsitoAvvio Avvia(Programma& programma, const Percorso& cartella, Blocco_Cartella
 }
 
 bool Converti_File(Programma& programma, Vista vecchio, Vista nuovo) {
-  if (C_E(programma, nuovo)) return true;
   const Percorso destinazione = Nella_Cartella(programma, nuovo);
+  int ignoto = 0;
+  if (!programma.disco.Manca_File(destinazione, &ignoto)) {
+    if (ignoto != 0) Messaggio_Non_Scritto(programma, destinazione, ignoto);
+    return true;
+  }
   if (C_E(programma, vecchio)) {
     const int errore = programma.disco.Copia(Nella_Cartella(programma, vecchio), destinazione);
     if (errore == 0)
@@ -205,10 +232,6 @@ bool Converti_File(Programma& programma, Vista vecchio, Vista nuovo) {
   programma.piattaforma.Messaggio(messaggio + "\nimpossibile continuare");
   Lancia_Generatore(programma);
   return false;
-}
-
-bool Serve_Primo_Avvio(const Programma& programma) {
-  return !C_E(programma, Ragione_Attuale) && !C_E(programma, Ragione_Precedente);
 }
 
 bool Scrivi_Primo_Avvio(Programma& programma, const PrimoAvvio& dati) {
@@ -230,19 +253,4 @@ bool Scrivi_Primo_Avvio(Programma& programma, const PrimoAvvio& dati) {
     programma.piattaforma.Messaggio("Non si possono scrivere le impostazioni nel file\n" +
                                     Testo_Percorso(programma.File_Ini));
   return errore == 0 && scritte;
-}
-
-void Lancia_Generatore(Programma& programma) {
-  // In a folder without write permission the generator would write nothing and start this program again, for
-  // ever.
-  const auto generatore = Trova_Programma(programma, Generatore);
-  if (generatore && Errore_Scrittura_Cartella(programma) == 0 &&
-      programma.piattaforma.Avvia_Programma(*generatore))
-    return;
-  Testo mancanti;
-  for (const Lista_Generata& lista : Genera_Liste(programma))
-    if (lista.errore != 0) mancanti += "\n" + lista.nome + ": " + Testo_Errore(lista.errore);
-  if (!mancanti.empty())
-    programma.piattaforma.Messaggio("Non si possono scrivere questi file in " +
-                                    Testo_Percorso(programma.Cartella_Dati) + mancanti);
 }

@@ -26,10 +26,5 @@ struct PrimoAvvio {
   Testo codice;
   Testo posteggio;
 };
-// Whether the folder has neither _2020_RAGIONE.txt nor RAGIONE.txt.
-bool Serve_Primo_Avvio(const Programma& programma);
 // Writes letterhead, code and stall number; a failure is told and gives false.
 bool Scrivi_Primo_Avvio(Programma& programma, const PrimoAvvio& dati);
-
-// Starts the list generator; where it is missing the program does its work itself. Then the program ends.
-void Lancia_Generatore(Programma& programma);

@@ -1,24 +1,9 @@
 #include "start/copia_giorno.h"
 
-#include <cerrno>
-
 #include "start/giorni_recenti.h"
 #include "transfers/volumi.h"
 
 namespace {
-
-// Copied, and read again on both sides: 0, or the errno of what failed.
-int Copia_E_Confronta(const Programma& programma, const Percorso& radice, const Percorso& da,
-                      const Percorso& a) {
-  const Disco& disco = programma.disco;
-  if (const int errore = Copia_Sul_Volume(programma, radice, da, a); errore != 0) return errore;
-  int errore = 0;
-  const auto copiato = disco.Leggi(a, &errore);
-  if (!copiato) return errore != 0 ? errore : EIO;
-  const auto origine = disco.Leggi(da, &errore);
-  if (!origine) return errore != 0 ? errore : EIO;
-  return *origine == *copiato ? 0 : EIO;
-}
 
 bool Chiedi_Di_Copiare(Programma& programma, const Testo& giorno, bool dalla_chiavetta) {
   const Testo domanda =
@@ -32,15 +17,15 @@ bool Chiedi_Di_Copiare(Programma& programma, const Testo& giorno, bool dalla_chi
 bool Copia_File(Programma& programma, const Percorso& radice, const Percorso& da, const Percorso& a) {
   Piattaforma& piattaforma = programma.piattaforma;
   const Disco& disco = programma.disco;
-  if (!disco.Esiste_File(da)) {
+  if (disco.Manca_File(da)) {
     piattaforma.Messaggio("il file\n" + Testo_Percorso(da) + "\nnon è stato trovato"_t);
     return false;
   }
-  if (disco.Esiste_File(a) &&
+  if (!disco.Manca_File(a) &&
       !piattaforma.Domanda("il file:\n" + Testo_Percorso(a) + "\nesiste...ok per sovrascrivere"))
     return false;
   piattaforma.Occupato(true);
-  const int errore = Copia_E_Confronta(programma, radice, da, a);
+  const int errore = Copia_Sul_Volume(programma, radice, da, a);
   piattaforma.Occupato(false);
   if (errore != 0) {
     piattaforma.Messaggio(Testo_Guasto(errore, "la copia", a));
@@ -72,19 +57,24 @@ void CopiaGiorno(Programma& programma, const B_Inizio& inizio, bool dalla_chiave
     programma.piattaforma.Apri_Con_Desktop(a.parent_path());
 }
 
-void CopiaFileGiorno(Programma& programma, B_Inizio& inizio, const Percorso& file) {
+bool CopiaFileGiorno(Programma& programma, B_Inizio& inizio, const Percorso& file) {
   const auto giorno = Giorno_Nel_Nome(Nome_File(file));
-  if (!giorno)
-    return programma.piattaforma.Messaggio("il file\n" + Testo_Percorso(file) +
-                                           "\nnon ha il nome di una giornata, per esempio 20250314.txt");
+  if (!giorno) {
+    programma.piattaforma.Messaggio("il file\n" + Testo_Percorso(file) +
+                                    "\nnon ha il nome di una giornata, per esempio 20250314.txt");
+    return true;
+  }
   const Testo cifre = Testo_Data(*giorno, "yyyymmdd");
   const Percorso qui =
       File_Del_Giorno(programma.Cartella_Dati, cifre.substr(0, 4), cifre.substr(4, 2), cifre.substr(6));
-  if (programma.disco.Trova(qui).lexically_normal() == file.lexically_normal())
-    return Metti_Giorno(programma, inizio, *giorno);  // one of our own: nothing to copy
-  if (!Chiedi_Di_Copiare(programma, Testo_Data(*giorno, "dd/mm/yyyy"), true)) return;
+  if (programma.disco.Trova(qui).lexically_normal() == file.lexically_normal()) {
+    Metti_Giorno(programma, inizio, *giorno);  // one of our own: nothing to copy
+    return true;
+  }
+  if (!Chiedi_Di_Copiare(programma, Testo_Data(*giorno, "dd/mm/yyyy"), true)) return false;
   const auto radice = Volume_Di(programma.piattaforma.Volumi(), file);
-  if (!Copia_File(programma, radice.value_or(Percorso()), file, qui)) return;
+  if (!Copia_File(programma, radice.value_or(Percorso()), file, qui)) return true;
   Metti_Giorno(programma, inizio, *giorno);
   Aggiorna_Recenti(programma, inizio);
+  return true;
 }

@@ -1,8 +1,10 @@
 #include "start/ditte.h"
 
-std::vector<Percorso> Ditte_In(const Disco& disco, const Percorso& radice) {
+std::optional<std::vector<Percorso>> Ditte_In(const Disco& disco, const Percorso& radice, int* errore) {
+  const auto nomi = disco.Elenca_Cartelle(radice, errore);
+  if (!nomi) return std::nullopt;
   std::vector<Percorso> ditte;
-  for (const Percorso& nome : disco.Elenca_Cartelle(radice)) {
+  for (const Percorso& nome : *nomi) {
     const Percorso ditta = radice / nome;
     if (disco.Esiste_File(Unisci_Percorso(ditta, Programma_Ditta)) ||
         disco.Esiste_File(Unisci_Percorso(ditta, "_2020_RAGIONE.txt")))

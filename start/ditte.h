@@ -12,8 +12,10 @@
 inline constexpr Vista Programma_Ditta = "Velmara_2020";
 inline constexpr Vista Programmi_Ditta[] = {Programma_Ditta, "Velmara_2020_Descri"};
 
-// The folders below `radice` that hold the program or a letterhead, by name.
-std::vector<Percorso> Ditte_In(const Disco& disco, const Percorso& radice);
+// The folders below `radice` that hold the program or a letterhead, by name. Nothing where it can't be read;
+// `errore` then says why.
+std::optional<std::vector<Percorso>> Ditte_In(const Disco& disco, const Percorso& radice,
+                                              int* errore = nullptr);
 
 // A name for a new firm's folder: trimmed, without what a name of a file can't hold on any kind of machine;
 // nothing when no name is left.

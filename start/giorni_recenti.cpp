@@ -22,8 +22,13 @@ std::optional<Data> Giorno_Nel_Nome(Vista nome) {
   return Giorno_Del_File(nome);
 }
 
-std::vector<Data> Giorni_Recenti(const Programma& programma, std::size_t quanti) {
-  std::vector<Percorso> anni = programma.disco.Elenca_Cartelle(programma.Cartella_Dati);
+std::vector<Data> Giorni_Recenti(const Programma& programma, std::size_t quanti, bool* tutti) {
+  bool letti = true;
+  const auto prendi = [&letti](std::optional<std::vector<Percorso>> nomi) {
+    letti = letti && nomi.has_value();
+    return std::move(nomi).value_or(std::vector<Percorso>());
+  };
+  std::vector<Percorso> anni = prendi(programma.disco.Elenca_Cartelle(programma.Cartella_Dati));
   std::erase_if(anni, [](const Percorso& anno) { return !Cifre(Testo_Percorso(anno), cifre_anno); });
   std::ranges::reverse(anni);
   const Data oggi = programma.piattaforma.Oggi();
@@ -31,7 +36,7 @@ std::vector<Data> Giorni_Recenti(const Programma& programma, std::size_t quanti)
   for (const Percorso& anno : anni) {
     const Percorso cartella = Unisci_Percorso(programma.Cartella_Dati, Testo_Percorso(anno));
     for (const char* modello : {"????????.txt", "????????.dat"})
-      for (const Percorso& nome : programma.disco.Elenca(cartella, modello)) {
+      for (const Percorso& nome : prendi(programma.disco.Elenca(cartella, modello))) {
         const auto giorno = Giorno_Del_File(Testo_Percorso(nome));
         if (giorno && std::to_string(giorno->anno) == Testo_Percorso(anno) && *giorno <= oggi)
           giorni.push_back(*giorno);
@@ -41,5 +46,6 @@ std::vector<Data> Giorni_Recenti(const Programma& programma, std::size_t quanti)
     if (giorni.size() >= quanti) break;
   }
   giorni.resize(std::min(giorni.size(), quanti));
+  if (tutti != nullptr) *tutti = letti;
   return giorni;
 }

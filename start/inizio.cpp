@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "core/giorno.h"
+#include "core/impegno.h"
 #include "core/numeri.h"
 #include "core/profili.h"
 #include "lists/liste.h"
@@ -209,8 +210,8 @@ Percorso Cartella_Dell_Anno(const Programma& programma, const B_Inizio& inizio) 
 
 void Riempi_File1(const Programma& programma, B_Inizio& inizio) {
   std::vector<Testo> nomi;
-  for (const Percorso& nome : programma.disco.Elenca(Cartella_Dell_Anno(programma, inizio), "*.txt"))
-    nomi.push_back(Testo_Percorso(nome));
+  const auto file = programma.disco.Elenca(Cartella_Dell_Anno(programma, inizio), "*.txt");
+  for (const Percorso& nome : file.value_or(std::vector<Percorso>())) nomi.push_back(Testo_Percorso(nome));
   inizio.File1.Riempi(std::move(nomi));
 }
 
@@ -278,17 +279,21 @@ void Metti_Giorno(Programma& programma, B_Inizio& inizio, const Data& giorno) {
 }
 
 void Aggiorna_Recenti(Programma& programma, B_Inizio& inizio) {
-  inizio.giorni_recenti = Giorni_Recenti(programma, giorni_mostrati);
+  bool tutti = true;
+  inizio.giorni_recenti = Giorni_Recenti(programma, giorni_mostrati, &tutti);
   std::vector<Testo> righe;
   for (const Data& giorno : inizio.giorni_recenti)
     righe.push_back(Testo_Data(giorno, "dd/mm/yyyy") + "  " + Nome_Giorno(giorno));
+  if (!tutti) righe.emplace_back("(una cartella non si legge)");
   inizio.Recenti.Riempi(std::move(righe));
   Cambia_Data(programma, inizio);
 }
 
 void Scelto_Recente(Programma& programma, B_Inizio& inizio) {
   if (inizio.Recenti.scelta < 0) return;
-  Metti_Giorno(programma, inizio, inizio.giorni_recenti[static_cast<std::size_t>(inizio.Recenti.scelta)]);
+  const auto riga = static_cast<std::size_t>(inizio.Recenti.scelta);
+  if (riga >= inizio.giorni_recenti.size()) return Cambia_Data(programma, inizio);  // no day: as it was
+  Metti_Giorno(programma, inizio, inizio.giorni_recenti[riga]);
 }
 
 bool Vai_Ai_Recenti(Programma& programma, B_Inizio& inizio) {
@@ -314,12 +319,9 @@ void Giorno_Giu(Programma& programma, B_Inizio& inizio) {
 }
 
 bool Apri_Giorno(Programma& programma, B_Inizio& inizio) {
-  inizio.attiva = false;
-  programma.piattaforma.Occupato(true);
-  const bool aperto = Apri(programma, inizio);
-  programma.piattaforma.Occupato(false);
-  inizio.attiva = true;
-  return aperto;
+  const Schermo_Fermo fermo(inizio);
+  const Clessidra clessidra(programma.piattaforma);
+  return Apri(programma, inizio);
 }
 
 bool TastoInizio(Programma& programma, B_Inizio& inizio, const Pressione& pressione) {

@@ -17,7 +17,7 @@ struct B_Inizio {
       Command11, Command12, Command14, Command15, Command16;
   Elenco File1;    // working tool, not shown
   Elenco Recenti;  // the last days that have a file; the chosen line is the day in the fields
-  std::vector<Data> giorni_recenti;  // its lines
+  std::vector<Data> giorni_recenti;  // its lines; one more tells that there may be others
   Colore sfondo;                     // grey while Modo_Dat is on
   bool attiva = true;
   // What the program knew when the number fields were filled: account, credit note, invoice, transport

@@ -70,11 +70,11 @@ void ConvertiDati(Programma& programma) {
   Piattaforma& piattaforma = programma.piattaforma;
   const Disco& disco = programma.disco;
   const Percorso file = Unisci_Percorso(programma.Cartella_Dati, "ProgDati.txt");
-  if (!disco.Esiste_File(file))
+  if (disco.Manca_File(file))
     if (const int errore = disco.Sostituisci(file, Testo(convertitore).append(FINE_RIGA)); errore != 0)
       return piattaforma.Messaggio(Testo_Percorso(file) + "\nnon si scrive: " + Testo_Errore(errore));
   int errore = 0;
-  const auto contenuto = disco.Leggi(file, &errore);
+  const auto contenuto = disco.Leggi_Testo(file, &errore);
   if (!contenuto)
     return piattaforma.Messaggio(Testo_Percorso(file) + "\nnon si legge: " + Testo_Errore(errore));
   const std::vector<Vista> righe = Righe(*contenuto);

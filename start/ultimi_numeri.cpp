@@ -52,8 +52,9 @@ Massimi Massimi_Del_Giorno(Vista contenuto, char separatore) {
 
 // The latest day of the folder that holds anything; empty days behind it are deleted. Nothing without one.
 std::optional<Testo> Ultimo_Giorno(const Disco& disco, const Percorso& cartella) {
-  const std::vector<Percorso> giorni = disco.Elenca(cartella, "*.txt");
-  for (auto giorno = giorni.rbegin(); giorno != giorni.rend(); ++giorno) {
+  const auto giorni = disco.Elenca(cartella, "*.txt");
+  if (!giorni) return Testo();  // there may be days, but they tell nothing
+  for (auto giorno = giorni->rbegin(); giorno != giorni->rend(); ++giorno) {
     const Percorso file = cartella / *giorno;
     auto contenuto = disco.Leggi(file);
     if (!contenuto) return Testo();  // unreadable: it is there, and tells nothing
@@ -67,7 +68,6 @@ std::optional<Testo> Ultimo_Giorno(const Disco& disco, const Percorso& cartella)
 
 Testo Trova_Ultimi_Numeri(Programma& programma, Vista anno) {
   const Percorso cartella = Unisci_Percorso(programma.Cartella_Dati, anno);
-  if (!programma.disco.Esiste_Cartella(cartella)) return "0";
   const auto giorno = Ultimo_Giorno(programma.disco, cartella);
   if (!giorno) return "0";
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "accounts/file_conto.h"
+#include "core/giorno.h"
+#include "core/impegno.h"
 #include "core/numeri.h"
 #include "lists/consolida.h"
 #include "lists/ordina.h"
@@ -92,12 +94,17 @@ void Svuota(ControlloCV& schermo) {
   schermo.ListaControllo.Cambiato();
 }
 
-std::vector<Percorso> File_Del_Periodo(const Programma& programma, Vista anno, int mese) {
-  if (!Tutte_Cifre(anno)) return {};  // no year, no folder of ours
+// Nothing, told, where the folder can't be read.
+std::optional<std::vector<Percorso>> File_Del_Periodo(const Programma& programma, Vista anno, int mese) {
+  if (!Tutte_Cifre(anno)) return std::vector<Percorso>();  // no year, no folder of ours
   const Percorso cartella =
       programma.disco.Trova(Unisci_Percorso(Unisci_Percorso(programma.Cartella_Dati, anno), "CV_NO"));
-  std::vector<Percorso> file = programma.disco.Elenca(cartella, Modello_Nomi(mese));
-  for (Percorso& nome : file) nome = cartella / nome;
+  int errore = 0;
+  auto file = programma.disco.Elenca(cartella, Modello_Nomi(mese), &errore);
+  if (!file)
+    Di_Errore_File(programma, errore, "la lettura", cartella);
+  else
+    for (Percorso& nome : *file) nome = cartella / nome;
   return file;
 }
 
@@ -129,6 +136,10 @@ Foglio_Di_Righe Foglio(const ControlloCV& schermo, const Data& oggi, char separa
   foglio.righe.push_back(
       {"Totale provvigioni   " + Euro2_Migliaia(schermo.totale_commissioni, separatore), true});
   return foglio;
+}
+
+auto Ferma(const Programma& programma, ControlloCV& schermo) {
+  return Schermo_Fermo(schermo, [&programma, &schermo] { Aggiorna_Comandi_Controllo(programma, schermo); });
 }
 
 }  // namespace
@@ -207,22 +218,20 @@ void Leggi_Controllo(Programma& programma, ControlloCV& schermo) {
     return;
   }
   Svuota(schermo);
-  schermo.attiva = false;
+  const auto fermo = Ferma(programma, schermo);
   const int mese = schermo.Combo1.scelta;
-  const std::vector<Percorso> file = File_Del_Periodo(programma, anno, mese);
-  programma.piattaforma.Messaggio(
-      file.empty() ? Testo("trovato niente") : "trovati " + std::to_string(file.size()), Icona::Informazione);
-  if (!file.empty()) {
-    programma.piattaforma.Occupato(true);
-    schermo.periodo = Testo(mesi[mese < 0 ? tutto_l_anno : mese]) + " / " + anno;
-    schermo.Tabella_Controllo.reserve(file.size());
-    for (const Percorso& uno : file) schermo.Tabella_Controllo.push_back(Leggi_Riga(programma.disco, uno));
-    Calcola_Totali(schermo, programma.Separatore_Decimale);
-    schermo.ListaControllo.Cambiato();
-    programma.piattaforma.Occupato(false);
-  }
-  schermo.attiva = true;
-  Aggiorna_Comandi_Controllo(programma, schermo);
+  const auto file = File_Del_Periodo(programma, anno, mese);
+  if (file)
+    programma.piattaforma.Messaggio(
+        file->empty() ? Testo("trovato niente") : "trovati " + std::to_string(file->size()),
+        Icona::Informazione);
+  if (!file || file->empty()) return;
+  const Clessidra clessidra(programma.piattaforma);
+  schermo.periodo = Testo(mesi[mese < 0 ? tutto_l_anno : mese]) + " / " + anno;
+  schermo.Tabella_Controllo.reserve(file->size());
+  for (const Percorso& uno : *file) schermo.Tabella_Controllo.push_back(Leggi_Riga(programma.disco, uno));
+  Calcola_Totali(schermo, programma.Separatore_Decimale);
+  schermo.ListaControllo.Cambiato();
 }
 
 void Consolida_Controllo(const Programma& programma, ControlloCV& schermo) {
@@ -230,7 +239,7 @@ void Consolida_Controllo(const Programma& programma, ControlloCV& schermo) {
   const char separatore = programma.Separatore_Decimale;
   for (RigaControllo& riga : schermo.Tabella_Controllo) {
     riga[controllo::Numero] = Testo(cifre_numero, ' ');
-    // else an amount that can't be read would keep those of the supplier's other accounts out of his line
+    // an amount that can't be read counts as nothing, and shows so in the supplier's line
     for (const auto colonna : {controllo::Imponibile, controllo::Commissioni})
       if (!Numerico(riga[colonna], separatore)) riga[colonna] = "0";
   }
@@ -257,10 +266,7 @@ void Cancella_Controllo(const Programma& programma, ControlloCV& schermo) {
 
 void Stampa_Controllo(Programma& programma, ControlloCV& schermo) {
   if (!schermo.attiva || schermo.Tabella_Controllo.empty()) return;
-  schermo.attiva = false;
-  Aggiorna_Comandi_Controllo(programma, schermo);
+  const auto fermo = Ferma(programma, schermo);
   Stampa_Righe(programma, Foglio(schermo, programma.piattaforma.Oggi(), programma.Separatore_Decimale),
                schermo.titolo);
-  schermo.attiva = true;
-  Aggiorna_Comandi_Controllo(programma, schermo);
 }

@@ -25,17 +25,6 @@ Testo Peso_E_Imponibile(const Totale_Cliente& totale, char separatore) {
   return Peso_Cliente(totale, separatore) + " per " + Cifra_A_Destra(totale.imponibile.Valore(), separatore);
 }
 
-// By the number that Num holds: as a text "10000" would stand before "1001", and the next save would keep it
-// so.
-void Rimetti_Per_Num(Programma& programma) {
-  std::vector<Testo> numeri;
-  for (const LedgerRow& riga : programma.Vet_Tabella.righe)
-    numeri.push_back(Formato(Valore(riga[CampoRiga::Num], programma.Separatore_Decimale), "0000000000",
-                             programma.Separatore_Decimale));
-  Riordina(programma.Vet_Tabella.righe, Ordine_Chiavi(std::move(numeri)));
-  programma.Colonna_Ordine = static_cast<int>(CampoRiga::Num);
-}
-
 void Aggiungi_Riga(std::vector<Totale_Cliente>& totali, const LedgerRow& riga, char separatore) {
   const Testo& nome = riga[CampoRiga::Cliente];
   if (totali.empty() || !Uguali(totali.back().Cliente, nome)) {
@@ -75,7 +64,7 @@ void CalcolaPerCliente(Programma& programma, RXcli& schermo, int ordina) {
   schermo.totali.clear();
   for (const LedgerRow& riga : programma.Vet_Tabella.righe)
     if (!Senza_Vendita(riga)) Aggiungi_Riga(schermo.totali, riga, programma.Separatore_Decimale);
-  if (ordina == 1) Rimetti_Per_Num(programma);
+  if (ordina == 1) Ordina_Colonna(programma, CampoRiga::Num);
   schermo.Avviso.testo = Righe_Illeggibili(programma.Vet_Tabella.righe, programma.Separatore_Decimale);
 
   std::vector<Testo> righe, nomi;

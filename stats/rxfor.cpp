@@ -93,6 +93,16 @@ double Importo_Totale(const RXFor& schermo) {
   return somma.Valore();
 }
 
+// A line of the list, with the species or without.
+Testo Riga_Saldo(const Totale& totale, bool con_specie, char separatore) {
+  Testo riga = Pad(totale.Fornitore, larghezza_nome);
+  if (con_specie) riga += Pad(totale.Specie, larghezza_nome);
+  riga.append(totale.Testo_Kg(separatore)).append(" kg = ").append("  € = "_t);
+  riga.append(totale.Testo_Importo(separatore)).append("-> ");
+  if (const auto medio = totale.Prezzo_Medio()) riga += Formato(*medio, importo, separatore);
+  return riga;
+}
+
 void Mostra(const Programma& programma, const RXFor& schermo, std::vector<Testo>& righe) {
   for (const Totale& totale : schermo.Vet_Temp1)
     righe.push_back(Riga_Saldo(totale, !schermo.per_fornitore, programma.Separatore_Decimale));
@@ -153,7 +163,7 @@ void Leggi_E_Mostra(Programma& programma, RXFor& schermo, const std::vector<Perc
   Scansione scansione(programma, {.per_specie = true,
                                   .primo_sbarco = schermo.Check3.segnata,
                                   .provvisorio = errore == 0 ? Temporaneo(programma) : Percorso()});
-  const bool finita = Leggi_Periodo(programma, scansione, nomi, schermo.Avanzamento, schermo.fermata);
+  const bool finita = Leggi_Periodo(programma, scansione, nomi, schermo.Avanzamento);
   if (errore == 0) errore = scansione.Chiudi();
   if (!finita) {
     programma.disco.Cancella(Temporaneo(programma));
@@ -168,15 +178,6 @@ void Leggi_E_Mostra(Programma& programma, RXFor& schermo, const std::vector<Perc
 }
 
 }  // namespace
-
-Testo Riga_Saldo(const Totale& totale, bool con_specie, char separatore) {
-  Testo riga = Pad(totale.Fornitore, larghezza_nome);
-  if (con_specie) riga += Pad(totale.Specie, larghezza_nome);
-  riga.append(totale.Testo_Kg(separatore)).append(" kg = ").append("  € = "_t);
-  riga.append(totale.Testo_Importo(separatore)).append("-> ");
-  if (const auto medio = totale.Prezzo_Medio()) riga += Formato(*medio, importo, separatore);
-  return riga;
-}
 
 void Apri_RXFor(const Programma& programma, RXFor& schermo) {
   schermo.Caption.testo = "Data in formato AAAAMMDD";
@@ -229,9 +230,9 @@ void Calcola_Saldo(Programma& programma, RXFor& schermo) {
   const int errore = programma.disco.Cancella(Temporaneo(programma));
   const Intervallo date = {Testo(Pulito(schermo.Text1.testo)), Testo(Pulito(schermo.Text2.testo))};
   if (!Date_Giuste(programma, date)) return;
-  const std::vector<Percorso> nomi = File_Dell_Anno(programma);
-  if (!Dentro_L_Anno(programma, date, nomi)) return;
-  const Periodo periodo = Chiedi_Periodo(programma, date, nomi);
+  const auto nomi = File_Dell_Anno(programma);
+  if (!nomi || !Dentro_L_Anno(programma, date, *nomi)) return;
+  const Periodo periodo = Chiedi_Periodo(programma, date, *nomi);
   if (!periodo.confermato) return;
   Vuota(schermo);
   schermo.da = date.da;

@@ -32,7 +32,6 @@ struct RXFor {
   bool per_fornitore = false;     // what Vet_Temp1 holds
   Testo da, a;                    // of the figures in the list
   bool attiva = true;
-  Fermata fermata;  // Esc while files are read
 };
 
 void Apri_RXFor(const Programma& programma, RXFor& schermo);
@@ -47,6 +46,3 @@ void Calcola_Saldo(Programma& programma, RXFor& schermo);
 void Stampa_Saldo(Programma& programma, RXFor& schermo);
 void Stampa_Barre(Programma& programma, RXFor& schermo);
 void Salva_Saldo(Programma& programma, RXFor& schermo);  // Statistiche/<da>_<a>.txt
-
-// A line of the list, with the species or without.
-Testo Riga_Saldo(const Totale& totale, bool con_specie, char separatore);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 
+#include "core/giorno.h"
 #include "core/numeri.h"
 #include "lists/ordina.h"
 
@@ -28,10 +29,14 @@ void Ordina(std::vector<Totale>& totali, const Chiave& chiave) {
 
 }  // namespace
 
-std::vector<Percorso> File_Dell_Anno(const Programma& programma) {
-  std::vector<Percorso> nomi =
-      programma.disco.Elenca(programma.Cartella_Anno, programma.Anno_Lavoro + "????.txt");
-  std::erase_if(nomi, [](const Percorso& nome) {
+std::optional<std::vector<Percorso>> File_Dell_Anno(const Programma& programma) {
+  int errore = 0;
+  auto nomi = programma.disco.Elenca(programma.Cartella_Anno, programma.Anno_Lavoro + "????.txt", &errore);
+  if (!nomi) {
+    Di_Errore_File(programma, errore, "la lettura", programma.Cartella_Anno);
+    return std::nullopt;
+  }
+  std::erase_if(*nomi, [](const Percorso& nome) {
     return Nome_File(nome).size() != cifre_giorno + estensione.size() ||
            !In_Forma_AAAAMMGG(Giorno_Del_File(nome));
   });
@@ -147,15 +152,16 @@ class Scansione::Lettore {
 Scansione::Scansione(Programma& programma, Scopo_Scansione scopo)
     : programma_(programma), scopo_(std::move(scopo)) {}
 
-std::size_t Scansione::Miscuglio::operator()(const Nomi& nomi) const {
-  constexpr std::size_t passo = 31;
-  const std::hash<Vista> di;
-  return di(nomi.fornitore) * passo + di(nomi.specie);
+std::uint32_t Scansione::Numeri_Nomi::Di(Vista nome) {
+  if (const auto gia = come_scritti_.find(nome); gia != come_scritti_.end()) return gia->second;
+  const auto nuovo = static_cast<std::uint32_t>(piegati_.size());
+  const auto posto = piegati_.try_emplace(Minuscolo(nome), nuovo).first;
+  return come_scritti_.emplace(nome, posto->second).first->second;
 }
 
 bool Scansione::Leggi_Giorno(const Percorso& file) {
   int errore = 0;
-  const auto contenuto = programma_.disco.Leggi(file, &errore);
+  const auto contenuto = programma_.disco.Leggi_Testo(file, &errore);
   if (!contenuto) {
     if (errore != ENOENT) illeggibili_.push_back(Nome_File(file));
     return false;
@@ -173,30 +179,38 @@ bool Scansione::Leggi_Giorno(const Percorso& file) {
   return true;
 }
 
-Totale& Scansione::Trova(const Nomi& nomi) {
-  if (const auto gia = come_scritti_.find(nomi); gia != come_scritti_.end()) return totali_[gia->second];
-  const auto [posto, nuovo] =
-      piegati_.try_emplace(Nomi_Tenuti{Minuscolo(nomi.fornitore), Minuscolo(nomi.specie)}, totali_.size());
+Totale& Scansione::Trova(Vista fornitore, Vista specie) {
+  const std::uint64_t numeri = std::uint64_t{fornitori_.Di(fornitore)} << 32U | specie_.Di(specie);
+  const auto [posto, nuovo] = totali_.try_emplace(numeri);
+  Totale& totale = posto->second;
   if (nuovo) {
-    totali_.emplace_back();
-    totali_.back().Fornitore = nomi.fornitore;
-    totali_.back().Specie = nomi.specie;
+    totale.Fornitore = fornitore;
+    totale.Specie = specie;
+    in_ordine_.push_back(&totale);
   }
-  come_scritti_.emplace(Nomi_Tenuti{Testo(nomi.fornitore), Testo(nomi.specie)}, posto->second);
-  return totali_[posto->second];
+  return totale;
 }
 
 void Scansione::Conta(const Vendita& vendita) {
   const char separatore = programma_.Separatore_Decimale;
   const auto kg = Numero(vendita.peso, separatore);
   const auto prezzo = Numero(vendita.prezzo, separatore);
-  Totale& totale = Trova({vendita.fornitore, scopo_.per_specie ? vendita.specie : Vista()});
+  Totale& totale = Trova(vendita.fornitore, scopo_.per_specie ? vendita.specie : Vista());
   if (totale.righe++ == 0) totale.primo_peso = Normalizza_Numero(vendita.peso, separatore);
   if (kg) totale.kg.Aggiungi(*kg);
   if (kg && prezzo) totale.importo.Aggiungi_Prodotto(*kg, *prezzo);
   if (!kg || !prezzo) ++senza_numero_;
   ++righe_;
   if (!scopo_.provvisorio.empty()) Annota(vendita);
+}
+
+std::vector<Totale> Scansione::Prendi_Totali() {
+  std::vector<Totale> presi;
+  presi.reserve(in_ordine_.size());
+  for (Totale* totale : in_ordine_) presi.push_back(std::move(*totale));
+  in_ordine_.clear();
+  totali_.clear();
+  return presi;
 }
 
 // ---- the temporary file
@@ -220,7 +234,7 @@ void Scansione::Annota(const Vendita& vendita) {
 
 void Scansione::Svuota_Provvisorio() {
   if (errore_ == 0 && !in_sospeso_.empty())
-    errore_ = programma_.disco.Aggiungi(scopo_.provvisorio, in_sospeso_);
+    errore_ = programma_.disco.Accoda_Provvisorio(scopo_.provvisorio, in_sospeso_);
   in_sospeso_.clear();
 }
 
@@ -230,12 +244,11 @@ int Scansione::Chiudi() {
 }
 
 bool Leggi_Periodo(Programma& programma, Scansione& scansione, std::span<const Percorso> nomi,
-                   Scritta& avanzamento, const Fermata& fermata) {
+                   Scritta& avanzamento) {
   for (const Percorso& nome : nomi) {
     if (scansione.Leggi_Giorno(programma.Cartella_Anno / nome))
       avanzamento.testo = Nome_File(nome) + " letto";
-    programma.piattaforma.Ridipingi();
-    if (fermata && fermata()) return false;
+    if (programma.piattaforma.Vuole_Fermare()) return false;
   }
   return true;
 }

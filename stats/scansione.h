@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <span>
@@ -15,8 +16,8 @@
 // totals are kept, so that a year takes no more room than a day.
 
 // The open year's day files by name, without a folder. A day's file is called by its eight digits and ".txt";
-// what other programs leave in the folder isn't one.
-std::vector<Percorso> File_Dell_Anno(const Programma& programma);
+// what other programs leave in the folder isn't one. Nothing, told, where the folder can't be read.
+std::optional<std::vector<Percorso>> File_Dell_Anno(const Programma& programma);
 Testo Giorno_Del_File(const Percorso& nome);  // "20250314"
 bool In_Forma_AAAAMMGG(Vista testo);          // eight digits, month 01 to 12, day 01 to 31
 
@@ -52,59 +53,47 @@ class Scansione {
   int Righe() const { return righe_; }
   int Righe_Senza_Numero() const { return senza_numero_; }  // weight or price can't be read: count as nothing
   const std::vector<Testo>& Illeggibili() const { return illeggibili_; }  // names of files
-  std::vector<Totale> Prendi_Totali() { return std::move(totali_); }      // in the order of the first rows
+  std::vector<Totale> Prendi_Totali();                                    // in the order of the first rows
 
  private:
-  // The two names of a total, owned or looking at a file's bytes.
-  struct Nomi {
-    Vista fornitore, specie;
-    bool operator==(const Nomi&) const = default;
+  // Gives names numbers from 0 on. However a name is spelled in capitals and small letters, it has one
+  // number.
+  class Numeri_Nomi {
+   public:
+    std::uint32_t Di(Vista nome);
+
+   private:
+    struct Miscuglio {
+      using is_transparent = void;
+      std::size_t operator()(Vista nome) const { return std::hash<Vista>()(nome); }
+    };
+    using Indice = std::unordered_map<Testo, std::uint32_t, Miscuglio, std::equal_to<>>;
+    Indice come_scritti_;  // every spelling that was met
+    Indice piegati_;       // without regard to case
   };
-  struct Nomi_Tenuti {
-    Testo fornitore, specie;
-  };
-  struct Miscuglio {
-    using is_transparent = void;
-    std::size_t operator()(const Nomi& nomi) const;
-    std::size_t operator()(const Nomi_Tenuti& nomi) const {
-      return (*this)(Nomi{nomi.fornitore, nomi.specie});
-    }
-  };
-  struct Stessi_Nomi {
-    using is_transparent = void;
-    static Nomi Di(const Nomi& nomi) { return nomi; }
-    static Nomi Di(const Nomi_Tenuti& nomi) { return {nomi.fornitore, nomi.specie}; }
-    template <class A, class B>
-    bool operator()(const A& a, const B& b) const {
-      return Di(a) == Di(b);
-    }
-  };
-  using Indice_Nomi = std::unordered_map<Nomi_Tenuti, std::size_t, Miscuglio, Stessi_Nomi>;
 
   struct Vendita;
   class Lettore;
   void Conta(const Vendita& vendita);
-  Totale& Trova(const Nomi& nomi);
+  Totale& Trova(Vista fornitore, Vista specie);
   void Annota(const Vendita& vendita);
   void Svuota_Provvisorio();
 
   Programma& programma_;
   Scopo_Scansione scopo_;
-  std::vector<Totale> totali_;
-  Indice_Nomi come_scritti_;  // every spelling that was met
-  Indice_Nomi piegati_;       // without regard to case
-  Testo in_sospeso_;          // due to the temporary file
-  int errore_ = 0;            // of the temporary file
+  Numeri_Nomi fornitori_, specie_;
+  std::unordered_map<std::uint64_t, Totale> totali_;  // by the numbers of the two names
+  std::vector<Totale*> in_ordine_;                    // of the first rows
+  Testo in_sospeso_;                                  // due to the temporary file
+  int errore_ = 0;                                    // of the temporary file
   int righe_ = 0, senza_numero_ = 0;
   std::vector<Testo> illeggibili_;
 };
 
-// Between two files: lets the window work, and says whether the operator has asked to stop.
-using Fermata = std::function<bool()>;
-
-// Reads files of the year's folder in their order and tells each in `avanzamento`. False when it was stopped.
+// Reads files of the year's folder in their order and tells each in `avanzamento`. False when the operator
+// stopped it.
 bool Leggi_Periodo(Programma& programma, Scansione& scansione, std::span<const Percorso> nomi,
-                   Scritta& avanzamento, const Fermata& fermata);
+                   Scritta& avanzamento);
 
 // By supplier and species, the order of the first rows among equals.
 void Ordina_Totali(std::vector<Totale>& totali);

@@ -1,6 +1,7 @@
 #include "stats/statistica.h"
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 #include "core/numeri.h"
@@ -37,11 +38,14 @@ void Metti_Media(LedgerRow& riga, char separatore) {
 // A text that is no number would keep its place in a sum and take the neighbours with it; so rows that can't
 // be read come last in their group, and those that can be are all added.
 void Illeggibili_In_Fondo(std::vector<LedgerRow>& righe, char separatore) {
-  const auto mancanze = [&](const LedgerRow& riga) {
-    if (!Numero(riga[Peso], separatore)) return 2;
-    return Numero(riga[Prezzo], separatore) ? 0 : 1;
-  };
-  std::ranges::stable_sort(righe, {}, mancanze);
+  std::vector<int> mancanze;
+  mancanze.reserve(righe.size());
+  for (const LedgerRow& riga : righe)
+    mancanze.push_back(!Numero(riga[Peso], separatore) ? 2 : !Numero(riga[Prezzo], separatore) ? 1 : 0);
+  std::vector<std::size_t> ordine(righe.size());
+  std::iota(ordine.begin(), ordine.end(), std::size_t{0});
+  std::ranges::stable_sort(ordine, {}, [&](std::size_t i) { return mancanze[i]; });
+  Riordina(righe, std::move(ordine));
 }
 
 void Calcola(const Programma& programma, Statistica& schermo) {
@@ -65,6 +69,18 @@ double Somma(const Statistica& schermo, CampoRiga campo, char separatore) {
   for (const LedgerRow& riga : schermo.Vet_Statistica)
     somma.Aggiungi(Numero(riga[campo], separatore).value_or(0));
   return somma.Valore();
+}
+
+Testo Riga_Statistica(const LedgerRow& riga) {
+  return Pad(riga[Fornitore], larghezza_nome)
+      .append(separa)
+      .append(Pad(riga[Specie], larghezza_nome))
+      .append("| ")
+      .append(Pad(riga[Peso], larghezza_cifra))
+      .append(separa)
+      .append(Pad(riga[Colli], larghezza_cifra))
+      .append(separa)
+      .append(Pad(riga[NCV], larghezza_cifra));
 }
 
 std::vector<Testo> Righe_Elenco(const Programma& programma, const Statistica& schermo) {
@@ -121,18 +137,6 @@ std::vector<Testo> Titoli_Statistica() {
   const Testo secondo =
       Pad("                      ", fino_al_peso - 1) + "     kg.   |" + "  totale  " + "  medio ";
   return {primo, secondo};
-}
-
-Testo Riga_Statistica(const LedgerRow& riga) {
-  return Pad(riga[Fornitore], larghezza_nome)
-      .append(separa)
-      .append(Pad(riga[Specie], larghezza_nome))
-      .append("| ")
-      .append(Pad(riga[Peso], larghezza_cifra))
-      .append(separa)
-      .append(Pad(riga[Colli], larghezza_cifra))
-      .append(separa)
-      .append(Pad(riga[NCV], larghezza_cifra));
 }
 
 void Apri_Statistica(const Programma& programma, Statistica& schermo) {

@@ -42,4 +42,3 @@ void Salva_Statistica(Programma& programma, Statistica& schermo);   // into a fi
 void Aiuto_Statistica(Programma& programma);
 
 std::vector<Testo> Titoli_Statistica();
-Testo Riga_Statistica(const LedgerRow& riga);  // of Vet_Statistica

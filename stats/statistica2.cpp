@@ -10,15 +10,21 @@ namespace {
 
 constexpr std::size_t larghezza_nome = 40;
 
-std::vector<Percorso> File_Del_Periodo(const Programma& programma, const Statistica2& schermo) {
+std::optional<std::vector<Percorso>> File_Del_Periodo(const Programma& programma,
+                                                      const Statistica2& schermo) {
   const char separatore = programma.Separatore_Decimale;
   const int da = Intero(schermo.da, separatore), a = Intero(schermo.a, separatore);
-  std::vector<Percorso> nomi = File_Dell_Anno(programma);
-  std::erase_if(nomi, [&](const Percorso& nome) {
+  auto nomi = File_Dell_Anno(programma);
+  if (!nomi) return nomi;
+  std::erase_if(*nomi, [&](const Percorso& nome) {
     const int giorno = Intero(Giorno_Del_File(nome), separatore);
     return giorno < da || giorno > a;
   });
   return nomi;
+}
+
+Testo Riga_Periodo(const Totale& totale, char separatore) {
+  return Pad(totale.Fornitore, larghezza_nome) + " =  " + totale.Testo_Importo(separatore) + " €"_t;
 }
 
 void Mostra_Totali(const Programma& programma, Statistica2& schermo) {
@@ -42,20 +48,17 @@ void Vuota(const Programma& programma, Statistica2& schermo) {
 
 }  // namespace
 
-Testo Riga_Periodo(const Totale& totale, char separatore) {
-  return Pad(totale.Fornitore, larghezza_nome) + " =  " + totale.Testo_Importo(separatore) + " €"_t;
-}
-
 Testo Titoli_Periodo() { return Pad("fornitore            ", larghezza_nome + 1) + "|" + " euro"; }
 
 bool Apri_Statistica2(Programma& programma, Statistica2& schermo) {
-  const std::vector<Percorso> nomi = File_Dell_Anno(programma);
-  if (nomi.empty()) {
+  const auto nomi = File_Dell_Anno(programma);
+  if (!nomi) return false;
+  if (nomi->empty()) {
     programma.piattaforma.Messaggio(" non ci sono dati...nulla da fare");
     return false;
   }
-  schermo.Text1.testo = Giorno_Del_File(nomi.front());
-  schermo.Text2.testo = Giorno_Del_File(nomi.back());
+  schermo.Text1.testo = Giorno_Del_File(nomi->front());
+  schermo.Text2.testo = Giorno_Del_File(nomi->back());
   schermo.Caption_Text1.testo = "da";
   schermo.Caption_Text2.testo = "a";
   schermo.Applica.testo = "&Applica";
@@ -86,8 +89,12 @@ void Applica_Periodo(Programma& programma, Statistica2& schermo) {
   schermo.a = Pulito(schermo.Text2.testo);
   Vuota(programma, schermo);
   Scansione scansione(programma, {});
-  const std::vector<Percorso> nomi = File_Del_Periodo(programma, schermo);
-  if (!Leggi_Periodo(programma, scansione, nomi, schermo.Avanzamento, schermo.fermata)) {
+  const auto nomi = File_Del_Periodo(programma, schermo);
+  if (!nomi) {
+    schermo.Avviso.testo = "la cartella dell'anno non si legge";
+    return;
+  }
+  if (!Leggi_Periodo(programma, scansione, *nomi, schermo.Avanzamento)) {
     schermo.Avanzamento.testo = "calcolo interrotto";
     return;
   }

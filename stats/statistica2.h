@@ -26,7 +26,6 @@ struct Statistica2 {
   std::vector<Totale> Vet_Periodo;
   Testo da, a;  // of the figures in the list
   bool attiva = true;
-  Fermata fermata;  // Esc while files are read
 };
 
 // False when the year has no day yet (told): the screen doesn't open.
@@ -40,5 +39,4 @@ void Stampa_Periodo(Programma& programma, Statistica2& schermo);
 void Stampa_Barre(Programma& programma, Statistica2& schermo);
 void Aiuto_Statistica2(Programma& programma);
 
-Testo Riga_Periodo(const Totale& totale, char separatore);
 Testo Titoli_Periodo();

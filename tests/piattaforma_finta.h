@@ -25,7 +25,11 @@ class Piattaforma_Finta : public Piattaforma {
   Printer* dispositivo = nullptr;  // of the tests that print
   double attesa = 0;               // seconds waited in all
   int ridipinture = 0;
+  bool occupato = false;
   bool terminata = false;
+  int unita = 0;                         // of long works, done in all when the program asked whether to stop
+  std::optional<int> ferma_dopo;         // the operator presses Esc when so many are done
+  std::function<void()> fra_le_unita;    // what "happens" between two of them
   std::function<void()> durante_attesa;  // what "happens" while the program waits or asks
 
   void Messaggio(const Testo& testo, Icona, const Testo&) override { messaggi.push_back(testo); }
@@ -45,11 +49,15 @@ class Piattaforma_Finta : public Piattaforma {
     return risposta;
   }
   void Ridipingi() override { ++ridipinture; }
+  bool Vuole_Fermare() override {
+    if (fra_le_unita) fra_le_unita();
+    return ++unita == ferma_dopo;
+  }
   void Attendi(double secondi) override {
     attesa += secondi;
     if (durante_attesa) durante_attesa();
   }
-  void Occupato(bool) override {}
+  void Occupato(bool si) override { occupato = si; }
   Data Oggi() override { return oggi; }
   char Separatore_Decimale() override { return separatore; }
   Testo Appunti() override { return appunti; }

@@ -10,16 +10,6 @@
 
 namespace {
 
-QPushButton* Bottone_Di(QWidget* padre, const QString& nome, const QString& didascalia) {
-  auto* bottone = new QPushButton(didascalia, padre);
-  bottone->setObjectName(nome);
-  bottone->setFont(Carattere(punti_normali));
-  bottone->setAutoDefault(true);
-  const QFontMetrics misure(bottone->font());
-  bottone->setMinimumSize(misure.horizontalAdvance(didascalia) + 3 * misure.height(), 2 * misure.height());
-  return bottone;
-}
-
 QTreeWidget* Elenco_Di(QWidget* padre) {
   auto* elenco = new QTreeWidget(padre);
   elenco->setObjectName(QStringLiteral("ListaFile"));
@@ -45,9 +35,9 @@ Finestra_Generatore::Finestra_Generatore(Programma& programma)
     : programma_(programma),
       Messaggio_(new QLabel(this)),
       ListaFile_(Elenco_Di(this)),
-      Avvia_(Bottone_Di(this, QStringLiteral("Avvia"), QStringLiteral("&Avvia Velmara"))),
-      Riprova_(Bottone_Di(this, QStringLiteral("Riprova"), QStringLiteral("&Riprova"))),
-      Chiudi_(Bottone_Di(this, QStringLiteral("Chiudi"), QStringLiteral("&Chiudi"))) {
+      Avvia_(Bottone_Comodo(QStringLiteral("Avvia"), QStringLiteral("&Avvia Velmara"), this)),
+      Riprova_(Bottone_Comodo(QStringLiteral("Riprova"), QStringLiteral("&Riprova"), this)),
+      Chiudi_(Bottone_Comodo(QStringLiteral("Chiudi"), QStringLiteral("&Chiudi"), this)) {
   setObjectName(QStringLiteral("Generatore"));
   setWindowTitle(QStringLiteral("Generazione delle liste"));
   auto* titolo = new QLabel(QStringLiteral("Generazione delle liste"), this);

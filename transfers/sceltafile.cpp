@@ -36,17 +36,21 @@ void Mostra_Cartella(const Programma& programma, SceltaFile& schermo) {
     schermo.cartelle.push_back(schermo.cartella.parent_path());
     nomi.emplace_back(sopra);
   }
-  for (const Percorso& nome : programma.disco.Elenca_Cartelle(schermo.cartella)) {
+  int errore = 0;
+  const auto cartelle = programma.disco.Elenca_Cartelle(schermo.cartella, &errore);
+  const auto presenti = programma.disco.Elenca(schermo.cartella, "*", errore == 0 ? &errore : nullptr);
+  for (const Percorso& nome : cartelle.value_or(std::vector<Percorso>())) {
     schermo.cartelle.push_back(schermo.cartella / nome);
     nomi.push_back(Testo_Percorso(nome));
   }
-  for (const Percorso& nome : programma.disco.Elenca(schermo.cartella, "*"))
+  for (const Percorso& nome : presenti.value_or(std::vector<Percorso>()))
     file.push_back(Testo_Percorso(nome));
   schermo.Dir1.Riempi(std::move(nomi));
   schermo.Dir1.scelta = -1;
   schermo.File1.Riempi(std::move(file));
   schermo.File1.scelta = -1;
   schermo.Cartella.testo = Testo_Percorso(schermo.cartella);
+  if (errore != 0) schermo.Cartella.testo += " - non si legge: " + Testo_Errore(errore);
 }
 
 void Vai(const Programma& programma, SceltaFile& schermo, const Percorso& cartella) {

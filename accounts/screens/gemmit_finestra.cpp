@@ -2,7 +2,6 @@
 
 #include <QBoxLayout>
 #include <QCheckBox>
-#include <QCloseEvent>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QKeyEvent>
@@ -11,7 +10,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 
-#include "lists/screens/fornitori_finestra.h"
+#include "lists/screens/liste_finestre.h"
 #include "lists/screens/parti.h"
 #include "platform/aspetto.h"
 #include "platform/tasti_qt.h"
@@ -21,13 +20,15 @@
 namespace {
 
 constexpr double punti_anteprima = 8.25;
-constexpr int margine = 14, stacco = 12, righe_in_vista = 10;
+constexpr int margine = 14, stacco = 12, righe_in_vista = 10, caratteri_campo = 28;
 
 }  // namespace
 
 ZgemmitFinestra::ZgemmitFinestra(Programma& programma, QWidget* padre)
     : Finestra(QStringLiteral("Zgemmit"), padre, Qt::Window), programma_(programma) {
   ApriContiManuali(programma_, zgemmit_);
+  intitola(zgemmit_.titolo);
+  si_chiude(zgemmit_.chiusa, [this] { ChiudiConti(programma_, zgemmit_); });
   setFont(Carattere(punti_normali));
   anteprima_ = new ListaVoci(punti_anteprima);
   anteprima_->setAccessibleName(QStringLiteral("Anteprima del conto vendita"));
@@ -37,23 +38,18 @@ ZgemmitFinestra::ZgemmitFinestra(Programma& programma, QWidget* padre)
   dentro->setContentsMargins(margine, margine, margine, margine);
   dentro->addWidget(fa_pannello(), 0, 0);
   dentro->addWidget(anteprima_, 0, 0);
-  auto* tutto = new QVBoxLayout(this);
-  tutto->setContentsMargins(0, 0, 0, 0);
-  tutto->setMenuBar(fa_menu());
-  tutto->addLayout(dentro, 1);
+  disponi(fa_menu(), dentro);
   mostra();
   lista_->setFocus(Qt::OtherFocusReason);
 }
 
 QMenuBar* ZgemmitFinestra::fa_menu() {
   auto* barra = new QMenuBar;
-  legame.lega(barra->addAction(QString()), QStringLiteral("Scelta_Stampante"), zgemmit_.Scelta_Stampante,
-              [this] {
-                StampanteFinestra(programma_, this).esegui();
-                AggiornaComandi(programma_, zgemmit_);
-              });
-  legame.lega(barra->addAction(QString()), QStringLiteral("Aiuto"), zgemmit_.Aiuto,
-              [this] { MostraAiutoConti(programma_, zgemmit_); });
+  fa_voce(barra, QStringLiteral("Scelta_Stampante"), zgemmit_.Scelta_Stampante, [this] {
+    StampanteFinestra(programma_, this).esegui();
+    AggiornaComandi(programma_, zgemmit_);
+  });
+  fa_voce(barra, QStringLiteral("Aiuto"), zgemmit_.Aiuto, [this] { MostraAiutoConti(programma_, zgemmit_); });
   return barra;
 }
 
@@ -79,81 +75,51 @@ QWidget* ZgemmitFinestra::fa_lista() {
   colonna->setSpacing(2);
   lista_ = new ListaVoci(programma_.preferenze.DimFontListe);
   lista_->setAccessibleName(QStringLiteral("Conti vendita"));
-  auto* titoli = new QLabel;
-  titoli->setFont(lista_->font());
-  titoli->setTextFormat(Qt::PlainText);
-  titoli->setIndent(lista_->frameWidth() + 3);  // over the list's own columns
-  legame.lega(titoli, QStringLiteral("Titolo_Lista"), zgemmit_.Titolo_Lista);
   legame.lega(lista_, QStringLiteral("ListaCV"), zgemmit_.ListaCV,
               [this] { SceltaConto(programma_, zgemmit_, zgemmit_.ListaCV.scelta); });
   const QFontMetrics misure = lista_->fontMetrics();
   lista_->setMinimumWidth(misure.horizontalAdvance(QLatin1Char('0')) * 72);
   lista_->setMinimumHeight(misure.height() * righe_in_vista);
-  auto* avviso = new QLabel;
+  auto* avviso = fa_scritta(QStringLiteral("Avviso"), zgemmit_.Avviso);
   avviso->setWordWrap(true);
-  legame.lega(avviso, QStringLiteral("Avviso"), zgemmit_.Avviso);
-  colonna->addWidget(titoli);
+  colonna->addWidget(fa_titoli(QStringLiteral("Titolo_Lista"), zgemmit_.Titolo_Lista, *lista_));
   colonna->addWidget(lista_, 1);
   colonna->addWidget(avviso);
   return parte;
 }
 
 QWidget* ZgemmitFinestra::fa_conto() {
-  auto* riquadro = new QGroupBox(QStringLiteral("Conto vendita"));
-  riquadro->setFont(Carattere(punti_normali, true));
+  auto* riquadro = Riquadro_Titolato(QStringLiteral("Conto vendita"));
   auto* griglia = new QGridLayout(riquadro);
-  for (int campo = 0; campo < static_cast<int>(campi_.size()); ++campo) fa_campo(griglia, campo);
-  griglia->addWidget(fa_bottone(QStringLiteral("Command4"), zgemmit_.Command4, [this] { apri_fornitori(); }),
-                     static_cast<int>(Campo_Fornitore), 2);
+  for (int campo = 0; campo < static_cast<int>(campi_.size()); ++campo) fa_cella(griglia, campo);
+  auto* fornitori = fa_bottone(QStringLiteral("Command4"), zgemmit_.Command4, [this] { apri_fornitori(); });
+  fornitori->setMinimumHeight(0);  // as the field beside it
+  griglia->addWidget(fornitori, static_cast<int>(Campo_Fornitore), 2);
   griglia->addWidget(fa_bottone(QStringLiteral("Command3"), zgemmit_.Command3,
                                 [this] { ModificaDati(programma_, zgemmit_); }),
                      static_cast<int>(campi_.size()), 1, 1, 2);
   return riquadro;
 }
 
-void ZgemmitFinestra::fa_campo(QGridLayout* griglia, int campo) {
+void ZgemmitFinestra::fa_cella(QGridLayout* griglia, int campo) {
   const auto posto = static_cast<std::size_t>(campo);
-  auto* didascalia = new QLabel;
-  didascalia->setFont(Carattere(punti_normali));
-  legame.lega(didascalia, QStringLiteral("Caption(%1)").arg(campo), zgemmit_.Caption[posto]);
-  campi_[posto] = new CasellaTesto;
-  CasellaTesto* casella = campi_[posto];
-  casella->setFont(Carattere(punti_normali));
-  casella->setAccessibleName(In_QString(zgemmit_.Caption[posto].testo));
-  casella->setMinimumWidth(casella->fontMetrics().averageCharWidth() * 28);
+  auto* didascalia = fa_scritta(QStringLiteral("Caption(%1)").arg(campo), zgemmit_.Caption[posto]);
+  CasellaTesto* casella = fa_campo(QStringLiteral("Text1(%1)").arg(campo), zgemmit_.Text1[posto],
+                                   zgemmit_.Caption[posto], caratteri_campo);
+  campi_[posto] = casella;
   casella->installEventFilter(this);
   didascalia->setBuddy(casella);
-  legame.lega(casella, QStringLiteral("Text1(%1)").arg(campo), zgemmit_.Text1[posto]);
   griglia->addWidget(didascalia, campo, 0);
   griglia->addWidget(casella, campo, 1, 1, campo == Campo_Fornitore ? 1 : 2);
 }
 
 QWidget* ZgemmitFinestra::fa_stampa() {
-  auto* riquadro = new QGroupBox(QStringLiteral("Stampa"));
-  riquadro->setFont(Carattere(punti_normali, true));
+  auto* riquadro = Riquadro_Titolato(QStringLiteral("Stampa"));
   auto* colonna = new QVBoxLayout(riquadro);
-  struct Casella {
-    const char* nome;
-    Spunta& stato;
-  };
-  const Casella caselle[] = {{"Check1", zgemmit_.Check1}, {"Check2", zgemmit_.Check2}};
-  for (const auto& [nome, stato] : caselle) {
-    const QString didascalia = In_QString(stato.didascalia);
-    auto* casella = new QCheckBox(didascalia);
-    casella->setFont(Carattere(punti_normali));
-    casella->setAccessibleName(didascalia);
-    legame.lega(casella, QString::fromUtf8(nome), stato);
-    colonna->addWidget(casella);
-  }
-  auto* copie = new QComboBox;
-  copie->setFont(Carattere(punti_normali));
-  copie->setAccessibleName(QStringLiteral("Copie"));
-  legame.lega(copie, QStringLiteral("Combo1"), zgemmit_.Combo1);
-  colonna->addWidget(copie);
-  auto* stampante = new QLabel;
-  stampante->setFont(Carattere(punti_normali));
-  legame.lega(stampante, QStringLiteral("Stampante"), zgemmit_.Stampante);
-  colonna->addWidget(stampante);
+  colonna->addWidget(fa_casella(QStringLiteral("Check1"), zgemmit_.Check1));
+  colonna->addWidget(fa_casella(QStringLiteral("Check2"), zgemmit_.Check2));
+  colonna->addWidget(fa_tendina(QStringLiteral("Combo1"), QStringLiteral("Copie"), zgemmit_.Combo1));
+  colonna->addWidget(fa_scritta(QStringLiteral("Stampante"), zgemmit_.Stampante));
   colonna->addWidget(fa_bottone(QStringLiteral("Command1"), zgemmit_.Command1,
                                 [this] { MostraAnteprima(programma_, zgemmit_); }));
   colonna->addWidget(
@@ -162,12 +128,6 @@ QWidget* ZgemmitFinestra::fa_stampa() {
   colonna->addWidget(
       fa_bottone(QStringLiteral("Chiudi"), zgemmit_.Chiudi, [this] { ChiudiConti(programma_, zgemmit_); }));
   return riquadro;
-}
-
-QPushButton* ZgemmitFinestra::fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento) {
-  QPushButton* bottone = Fa_Bottone(stato);
-  legame.lega(bottone, nome, stato, std::move(evento));
-  return bottone;
 }
 
 void ZgemmitFinestra::apri_fornitori() {
@@ -183,35 +143,20 @@ void ZgemmitFinestra::porta_fuoco() {
 }
 
 void ZgemmitFinestra::mostra() {
-  const bool coperta = anteprima_ && anteprima_->isHidden();
+  const bool coperta = anteprima_->isHidden();
   Finestra::mostra();
-  const QString titolo = In_QString(zgemmit_.titolo);
-  if (windowTitle() != titolo) setWindowTitle(titolo);
-  if (coperta && anteprima_ && !anteprima_->isHidden()) anteprima_->setFocus(Qt::OtherFocusReason);
+  if (coperta && !anteprima_->isHidden()) anteprima_->setFocus(Qt::OtherFocusReason);
   porta_fuoco();
-  if (!zgemmit_.chiusa || in_chiusura_) return;
-  in_chiusura_ = true;
-  QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
 }
 
 // Enter and the arrows go through the fields; in the fields of amounts any key but a digit is the decimal
 // separator.
 bool ZgemmitFinestra::tasto_campo(int campo, const QKeyEvent& evento) {
-  bool usato = false;
-  legame.esegui([&] { usato = TastoCampoConto(zgemmit_, campo, Da_QKeyEvent(evento)); });
-  if (usato) return true;
-  const QString scritto = evento.text();
-  const bool carattere = scritto.size() == 1 && scritto.at(0).isPrint() &&
-                         !(evento.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
-  if (!carattere) return false;
-  QLineEdit* casella = campi_[static_cast<std::size_t>(campo)];
-  QString resto = casella->text();
-  if (casella->hasSelectedText()) resto.remove(casella->selectionStart(), casella->selectionLength());
-  const char battuto = Da_QString(scritto).front();
-  const auto entra = CarattereCampoConto(campo, battuto, Da_QString(resto), programma_.Separatore_Decimale);
-  if (entra == battuto) return false;
-  if (entra) casella->insert(In_QString(Testo(1, *entra)));
-  return true;
+  if (legame.usa([&] { return TastoCampoConto(zgemmit_, campo, Da_QKeyEvent(evento)); })) return true;
+  return Batti_Carattere(*campi_[static_cast<std::size_t>(campo)], evento,
+                         [this, campo](char battuto, const Testo& resta) {
+                           return CarattereCampoConto(campo, battuto, resta, programma_.Separatore_Decimale);
+                         });
 }
 
 bool ZgemmitFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
@@ -226,21 +171,6 @@ bool ZgemmitFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
   return Finestra::eventFilter(oggetto, evento);
 }
 
-void ZgemmitFinestra::keyPressEvent(QKeyEvent* evento) {
-  const Pressione pressione = Da_QKeyEvent(*evento);
-  bool usato = false;
-  legame.esegui([&] { usato = TastoConti(programma_, zgemmit_, pressione); });
-  if (!usato) Finestra::keyPressEvent(evento);
-}
-
-void ZgemmitFinestra::closeEvent(QCloseEvent* evento) {
-  if (!zgemmit_.chiusa) {
-    in_chiusura_ = true;
-    if (!occupata()) legame.esegui([this] { ChiudiConti(programma_, zgemmit_); });
-    in_chiusura_ = zgemmit_.chiusa;
-  }
-  if (zgemmit_.chiusa)
-    Finestra::closeEvent(evento);
-  else
-    evento->ignore();
+bool ZgemmitFinestra::tasto(const Pressione& pressione) {
+  return legame.usa([&] { return TastoConti(programma_, zgemmit_, pressione); });
 }

@@ -6,11 +6,9 @@
 #include "platform/finestra.h"
 
 class CasellaTesto;
-class QBoxLayout;
 class QGridLayout;
 class QListView;
 class QMenuBar;
-class QPushButton;
 
 // The day's accounts whose numbers were given by hand, `Zgemmit`.
 class ZgemmitFinestra : public Finestra {
@@ -23,8 +21,7 @@ class ZgemmitFinestra : public Finestra {
 
  protected:
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
-  void keyPressEvent(QKeyEvent* evento) override;
-  void closeEvent(QCloseEvent* evento) override;
+  bool tasto(const Pressione& pressione) override;
 
  private:
   QMenuBar* fa_menu();
@@ -32,8 +29,7 @@ class ZgemmitFinestra : public Finestra {
   QWidget* fa_lista();
   QWidget* fa_conto();
   QWidget* fa_stampa();
-  void fa_campo(QGridLayout* griglia, int campo);
-  QPushButton* fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento);
+  void fa_cella(QGridLayout* griglia, int campo);
   bool tasto_campo(int campo, const QKeyEvent& evento);
   void apri_fornitori();
   void porta_fuoco();
@@ -43,5 +39,4 @@ class ZgemmitFinestra : public Finestra {
   std::array<CasellaTesto*, 7> campi_{};
   QListView* lista_ = nullptr;
   QListView* anteprima_ = nullptr;
-  bool in_chiusura_ = false;
 };

@@ -1,10 +1,8 @@
 #include "accounts/screens/zvendita_finestra.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QBoxLayout>
 #include <QCheckBox>
-#include <QCloseEvent>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QKeyEvent>
@@ -13,7 +11,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 
-#include "lists/screens/fornitori_finestra.h"
+#include "lists/screens/liste_finestre.h"
 #include "lists/screens/parti.h"
 #include "platform/aspetto.h"
 #include "platform/tasti_qt.h"
@@ -22,24 +20,16 @@
 namespace {
 
 constexpr double punti_anteprima = 8.25;
-constexpr int caratteri_lista = 74;
-
-// A box that takes the screen's colour.
-QCheckBox* Fa_Casella(const Spunta& stato) {
-  auto* casella = new QCheckBox(In_QString(stato.didascalia));
-  casella->setFont(Carattere(punti_normali));
-  casella->setBackgroundRole(QPalette::Window);
-  casella->setForegroundRole(QPalette::WindowText);
-  return casella;
-}
+constexpr int caratteri_lista = 74, caratteri_campo = 14;
 
 }  // namespace
 
 ZvenditaFinestra::ZvenditaFinestra(Programma& programma, QWidget* padre)
     : Finestra(QStringLiteral("Zvendita"), padre, Qt::Window), programma_(programma) {
   ApriConti(programma_, zvendita_);
+  intitola(zvendita_.titolo);
+  si_chiude(zvendita_.chiusa, [this] { ChiudiConti(programma_, zvendita_); });
   setFont(Carattere(punti_normali));
-  setWindowTitle(QStringLiteral("Conto Vendita"));
 
   auto* schermo = new QWidget;
   legame.lega(schermo, QStringLiteral("Schermo"), zvendita_.Schermo);
@@ -61,15 +51,14 @@ ZvenditaFinestra::ZvenditaFinestra(Programma& programma, QWidget* padre)
 
 QMenuBar* ZvenditaFinestra::fa_menu() {
   auto* barra = new QMenuBar;
-  const auto voce = [&](const char* nome, Bottone& stato, Legame::Evento evento) {
-    legame.lega(barra->addAction(In_QString(stato.testo)), QString::fromUtf8(nome), stato, std::move(evento));
-  };
-  voce("Canc_Numerazione", zvendita_.Canc_Numerazione,
-       [this] { CancellaNumerazione(programma_, zvendita_); });
-  voce("Rinumera", zvendita_.Rinumera, [this] { Rinumera(programma_, zvendita_); });
-  voce("Salva_Numerazione", zvendita_.Salva_Numerazione, [this] { SalvaNumerazione(programma_, zvendita_); });
-  voce("Stato_IVA", zvendita_.Stato_IVA, {});
-  voce("Aiuto", zvendita_.Aiuto, [this] { MostraAiutoConti(programma_, zvendita_); });
+  fa_voce(barra, QStringLiteral("Canc_Numerazione"), zvendita_.Canc_Numerazione,
+          [this] { CancellaNumerazione(programma_, zvendita_); });
+  fa_voce(barra, QStringLiteral("Rinumera"), zvendita_.Rinumera, [this] { Rinumera(programma_, zvendita_); });
+  fa_voce(barra, QStringLiteral("Salva_Numerazione"), zvendita_.Salva_Numerazione,
+          [this] { SalvaNumerazione(programma_, zvendita_); });
+  fa_voce(barra, QStringLiteral("Stato_IVA"), zvendita_.Stato_IVA, {});
+  fa_voce(barra, QStringLiteral("Aiuto"), zvendita_.Aiuto,
+          [this] { MostraAiutoConti(programma_, zvendita_); });
   return barra;
 }
 
@@ -81,8 +70,10 @@ QWidget* ZvenditaFinestra::fa_pannello() {
   destra->addWidget(fa_stampa());
   destra->addWidget(fa_opzioni());
   destra->addStretch();
-  destra->addWidget(fa_bottone("Command5", zvendita_.Command5, [this] { CambiaAltreOpzioni(zvendita_); }));
-  destra->addWidget(fa_bottone("Chiudi", zvendita_.Chiudi, [this] { ChiudiConti(programma_, zvendita_); }));
+  destra->addWidget(
+      fa_bottone(QStringLiteral("Command5"), zvendita_.Command5, [this] { CambiaAltreOpzioni(zvendita_); }));
+  destra->addWidget(
+      fa_bottone(QStringLiteral("Chiudi"), zvendita_.Chiudi, [this] { ChiudiConti(programma_, zvendita_); }));
   auto* sinistra = new QVBoxLayout;
   sinistra->setSpacing(12);
   sinistra->addLayout(fa_lista(), 1);
@@ -101,13 +92,9 @@ QBoxLayout* ZvenditaFinestra::fa_lista() {
   lista_ = new ListaVoci(programma_.preferenze.DimFontListe);
   lista_->setAccessibleName(QStringLiteral("Conti vendita"));
   lista_->setMinimumWidth(lista_->fontMetrics().horizontalAdvance(QLatin1Char('0')) * caratteri_lista);
-  auto* titolo = new QLabel;
-  titolo->setFont(lista_->font());
-  titolo->setIndent(lista_->frameWidth() + 1);
-  legame.lega(titolo, QStringLiteral("Titolo_Lista"), zvendita_.Titolo_Lista);
   legame.lega(lista_, QStringLiteral("ListaCV"), zvendita_.ListaCV,
               [this] { SceltaConto(zvendita_, zvendita_.ListaCV.scelta); });
-  colonna->addWidget(titolo);
+  colonna->addWidget(fa_titoli(QStringLiteral("Titolo_Lista"), zvendita_.Titolo_Lista, *lista_));
   colonna->addWidget(lista_, 1);
   return colonna;
 }
@@ -115,20 +102,16 @@ QBoxLayout* ZvenditaFinestra::fa_lista() {
 QGroupBox* ZvenditaFinestra::fa_conto() {
   auto* riquadro = Riquadro_Titolato(QStringLiteral("Conto"));
   auto* griglia = new QGridLayout(riquadro);
-  for (int i = Campo_NCV; i <= Campo_Prov; ++i) {
-    fa_campo(i, riquadro);
-    auto* didascalia = riquadro->findChild<QLabel*>(QStringLiteral("Caption(%1)").arg(i));
-    griglia->addWidget(didascalia, i % 3, i / 3 * 3);
-    griglia->addWidget(campi_[static_cast<std::size_t>(i)], i % 3, i / 3 * 3 + 1);
-  }
-  auto* fornitori = fa_bottone("Command4", zvendita_.Command4, [this] { apri_fornitori(); });
+  for (int i = Campo_NCV; i <= Campo_Prov; ++i) fa_cella(i, griglia, i % 3, i / 3 * 3);
+  auto* fornitori = fa_bottone(QStringLiteral("Command4"), zvendita_.Command4, [this] { apri_fornitori(); });
+  fornitori->setMinimumHeight(0);  // as the field beside it
   fornitori->setMinimumWidth(0);
   griglia->addWidget(fornitori, Campo_Fornitore, 2);
   auto* comandi = new QHBoxLayout;
-  comandi->addWidget(
-      fa_bottone("Command1", zvendita_.Command1, [this] { ConfermaDati(programma_, zvendita_); }));
-  comandi->addWidget(
-      fa_bottone("Command3", zvendita_.Command3, [this] { ModificaDati(programma_, zvendita_); }));
+  comandi->addWidget(fa_bottone(QStringLiteral("Command1"), zvendita_.Command1,
+                                [this] { ConfermaDati(programma_, zvendita_); }));
+  comandi->addWidget(fa_bottone(QStringLiteral("Command3"), zvendita_.Command3,
+                                [this] { ModificaDati(programma_, zvendita_); }));
   griglia->addLayout(comandi, 3, 0, 1, 5);
   griglia->setColumnStretch(1, 1);
   griglia->setColumnStretch(4, 1);
@@ -138,22 +121,14 @@ QGroupBox* ZvenditaFinestra::fa_conto() {
 QGroupBox* ZvenditaFinestra::fa_stampa() {
   auto* riquadro = Riquadro_Titolato(QStringLiteral("Stampa"));
   auto* colonna = new QVBoxLayout(riquadro);
-  const auto casella = [&](const char* nome, Spunta& stato) {
-    auto* spunta = Fa_Casella(stato);
-    legame.lega(spunta, QString::fromUtf8(nome), stato);
-    colonna->addWidget(spunta);
-  };
-  casella("Check1", zvendita_.Check1);
-  casella("Check3", zvendita_.Check3);
-  casella("Check4", zvendita_.Check4);
-  auto* copie = new QComboBox;
-  copie->setFont(Carattere(punti_normali));
-  copie->setAccessibleName(QStringLiteral("Copie"));
-  legame.lega(copie, QStringLiteral("Combo1"), zvendita_.Combo1);
-  copie->installEventFilter(this);
-  copie_ = copie;
-  colonna->addWidget(copie);
-  colonna->addWidget(fa_bottone("Command2", zvendita_.Command2, [this] { StampaCV(programma_, zvendita_); }));
+  colonna->addWidget(fa_spunta(QStringLiteral("Check1"), zvendita_.Check1));
+  colonna->addWidget(fa_spunta(QStringLiteral("Check3"), zvendita_.Check3));
+  colonna->addWidget(fa_spunta(QStringLiteral("Check4"), zvendita_.Check4));
+  copie_ = fa_tendina(QStringLiteral("Combo1"), QStringLiteral("Copie"), zvendita_.Combo1);
+  copie_->installEventFilter(this);
+  colonna->addWidget(copie_);
+  colonna->addWidget(fa_bottone(QStringLiteral("Command2"), zvendita_.Command2,
+                                [this] { StampaCV(programma_, zvendita_); }));
   return riquadro;
 }
 
@@ -162,46 +137,36 @@ QGroupBox* ZvenditaFinestra::fa_opzioni() {
   legame.lega(riquadro, QStringLiteral("Riquadro_Opzioni"), zvendita_.Riquadro_Opzioni);
   auto* griglia = new QGridLayout(riquadro);
   const auto casella = [&](const char* nome, Spunta& stato, Legame::Evento evento) {
-    auto* spunta = Fa_Casella(stato);
-    legame.lega(spunta, QString::fromUtf8(nome), stato, std::move(evento));
-    griglia->addWidget(spunta, griglia->rowCount(), 0, 1, 2);
-  };
-  const auto campo = [&](int indice) {
-    fa_campo(indice, riquadro);
-    const int riga = griglia->rowCount();
-    griglia->addWidget(riquadro->findChild<QLabel*>(QStringLiteral("Caption(%1)").arg(indice)), riga, 0);
-    griglia->addWidget(campi_[static_cast<std::size_t>(indice)], riga, 1);
+    griglia->addWidget(fa_spunta(QString::fromUtf8(nome), stato, std::move(evento)), griglia->rowCount(), 0,
+                       1, 2);
   };
   casella("Check5", zvendita_.Check5, {});
   casella("Check6", zvendita_.Check6, [this] { CambiaAzzeraIva(zvendita_); });
   casella("Check7", zvendita_.Check7, {});
   casella("Check2", zvendita_.Check2, {});
   casella("Check8", zvendita_.Check8, [this] { CambiaAggioBanca(zvendita_); });
-  campo(Campo_Aggio);
-  campo(Campo_Citta);
+  for (const int indice : {Campo_Aggio, Campo_Citta}) fa_cella(indice, griglia, griglia->rowCount(), 0);
   return riquadro;
 }
 
-// The field and its caption, for the caller to place.
-void ZvenditaFinestra::fa_campo(int indice, QWidget* dove) {
+void ZvenditaFinestra::fa_cella(int indice, QGridLayout* griglia, int riga, int colonna) {
   const auto posto = static_cast<std::size_t>(indice);
-  auto* didascalia = new QLabel(dove);
-  didascalia->setFont(Carattere(punti_normali));
-  legame.lega(didascalia, QStringLiteral("Caption(%1)").arg(indice), zvendita_.Caption[posto]);
-  auto* campo = new CasellaTesto(dove);
-  campo->setFont(Carattere(punti_normali));
-  campo->setAccessibleName(In_QString(zvendita_.Caption[posto].testo));
-  campo->setMinimumWidth(campo->fontMetrics().averageCharWidth() * 14);
-  legame.lega(campo, QStringLiteral("Text1(%1)").arg(indice), zvendita_.Text1[posto]);
+  auto* didascalia = fa_scritta(QStringLiteral("Caption(%1)").arg(indice), zvendita_.Caption[posto]);
+  auto* campo = fa_campo(QStringLiteral("Text1(%1)").arg(indice), zvendita_.Text1[posto],
+                         zvendita_.Caption[posto], caratteri_campo);
   campo->installEventFilter(this);
   didascalia->setBuddy(campo);
   campi_[posto] = campo;
+  griglia->addWidget(didascalia, riga, colonna);
+  griglia->addWidget(campo, riga, colonna + 1);
 }
 
-QPushButton* ZvenditaFinestra::fa_bottone(const char* nome, Bottone& stato, Legame::Evento evento) {
-  QPushButton* bottone = Fa_Bottone(stato);
-  legame.lega(bottone, QString::fromUtf8(nome), stato, std::move(evento));
-  return bottone;
+// A box that takes the screen's colour.
+QWidget* ZvenditaFinestra::fa_spunta(const QString& nome, Spunta& stato, Legame::Evento evento) {
+  QCheckBox* casella = fa_casella(nome, stato, std::move(evento));
+  casella->setBackgroundRole(QPalette::Window);
+  casella->setForegroundRole(QPalette::WindowText);
+  return casella;
 }
 
 void ZvenditaFinestra::apri_fornitori() {
@@ -213,14 +178,9 @@ void ZvenditaFinestra::apri_fornitori() {
 void ZvenditaFinestra::mostra() {
   const bool coperto = anteprima_->isHidden() == zvendita_.Anteprima.visibile;
   Finestra::mostra();
-  const QString titolo = In_QString(zvendita_.titolo);
-  if (windowTitle() != titolo) setWindowTitle(titolo);
   // the list that comes in front takes the keyboard
   if (coperto && zvendita_.Anteprima.visibile) anteprima_->setFocus(Qt::OtherFocusReason);
   prendi_fuoco();
-  if (!zvendita_.chiusa || in_chiusura_) return;
-  in_chiusura_ = true;
-  QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
 }
 
 void ZvenditaFinestra::prendi_fuoco() {
@@ -239,20 +199,11 @@ int ZvenditaFinestra::indice_di(const QObject* oggetto) const {
 
 bool ZvenditaFinestra::tasto_campo(int indice, const QKeyEvent& evento) {
   const Pressione pressione = Da_QKeyEvent(evento);
-  bool usato = false;
-  legame.esegui([&] { usato = TastoCampoConto(zvendita_, indice, pressione); });
-  if (usato) return true;
-  const QString scritto = evento.text();
-  if (scritto.isEmpty() || !scritto[0].isPrint() || pressione.ctrl || pressione.alt) return false;
-  QLineEdit* campo = campi_[static_cast<std::size_t>(indice)];
-  QString resto = campo->text();
-  if (campo->hasSelectedText()) resto.remove(campo->selectionStart(), campo->selectedText().size());
-  const Testo carattere = Da_QString(scritto);
-  const auto passa =
-      CarattereCampoConto(indice, carattere[0], Da_QString(resto), programma_.Separatore_Decimale);
-  if (passa == carattere[0]) return false;
-  if (passa) campo->insert(QString(QLatin1Char(*passa)));
-  return true;
+  if (legame.usa([&] { return TastoCampoConto(zvendita_, indice, pressione); })) return true;
+  return Batti_Carattere(*campi_[static_cast<std::size_t>(indice)], evento,
+                         [this, indice](char battuto, const Testo& resta) {
+                           return CarattereCampoConto(indice, battuto, resta, programma_.Separatore_Decimale);
+                         });
 }
 
 bool ZvenditaFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
@@ -261,7 +212,7 @@ bool ZvenditaFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
     return tasto_campo(indice, *static_cast<QKeyEvent*>(evento));
   if (oggetto == copie_ && evento->type() == QEvent::KeyPress &&
       static_cast<QKeyEvent*>(evento)->key() == Qt::Key_F4) {
-    keyPressEvent(static_cast<QKeyEvent*>(evento));  // the list of copies would open with it
+    tasto(Da_QKeyEvent(*static_cast<QKeyEvent*>(evento)));  // the list of copies would open with it
     return true;
   }
   if (indice >= 0 && evento->type() == QEvent::MouseButtonDblClick)
@@ -270,21 +221,6 @@ bool ZvenditaFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
 }
 
 // The list takes the arrows itself; what the fields leave comes here.
-void ZvenditaFinestra::keyPressEvent(QKeyEvent* evento) {
-  const Pressione pressione = Da_QKeyEvent(*evento);
-  bool usato = false;
-  legame.esegui([&] { usato = TastoConti(programma_, zvendita_, pressione); });
-  if (!usato) Finestra::keyPressEvent(evento);
-}
-
-void ZvenditaFinestra::closeEvent(QCloseEvent* evento) {
-  if (!zvendita_.chiusa) {
-    in_chiusura_ = true;
-    if (!occupata()) legame.esegui([this] { ChiudiConti(programma_, zvendita_); });
-    in_chiusura_ = zvendita_.chiusa;
-  }
-  if (zvendita_.chiusa)
-    Finestra::closeEvent(evento);
-  else
-    evento->ignore();
+bool ZvenditaFinestra::tasto(const Pressione& pressione) {
+  return legame.usa([&] { return TastoConti(programma_, zvendita_, pressione); });
 }

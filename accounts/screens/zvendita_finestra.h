@@ -3,13 +3,12 @@
 #include "accounts/zvendita.h"
 #include "platform/finestra.h"
 
-class AnagraficaFinestra;
 class QBoxLayout;
+class QGridLayout;
 class QGroupBox;
 class QLineEdit;
 class QListView;
 class QMenuBar;
-class QPushButton;
 
 // The day's consignment accounts, `Zvendita`.
 class ZvenditaFinestra : public Finestra {
@@ -22,8 +21,7 @@ class ZvenditaFinestra : public Finestra {
 
  protected:
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
-  void keyPressEvent(QKeyEvent* evento) override;
-  void closeEvent(QCloseEvent* evento) override;
+  bool tasto(const Pressione& pressione) override;
 
  private:
   QMenuBar* fa_menu();
@@ -32,8 +30,8 @@ class ZvenditaFinestra : public Finestra {
   QGroupBox* fa_conto();
   QGroupBox* fa_stampa();
   QGroupBox* fa_opzioni();
-  void fa_campo(int indice, QWidget* dove);
-  QPushButton* fa_bottone(const char* nome, Bottone& stato, Legame::Evento evento);
+  void fa_cella(int indice, QGridLayout* griglia, int riga, int colonna);
+  QWidget* fa_spunta(const QString& nome, Spunta& stato, Legame::Evento evento = {});
   int indice_di(const QObject* oggetto) const;
   bool tasto_campo(int indice, const QKeyEvent& evento);
   void apri_fornitori();
@@ -45,5 +43,4 @@ class ZvenditaFinestra : public Finestra {
   QListView* lista_ = nullptr;
   QListView* anteprima_ = nullptr;
   QWidget* copie_ = nullptr;
-  bool in_chiusura_ = false;
 };

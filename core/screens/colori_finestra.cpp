@@ -28,7 +28,7 @@ void Dipingi(QLabel* scritta, const Campione& campione) {
 ColoriFinestra::ColoriFinestra(Programma& programma, QWidget* padre)
     : FinestraModulo(QStringLiteral("Colori"), padre, Qt::Window), programma_(programma) {
   Apri_Colori(programma_, schermo_);
-  setWindowTitle(In_QString(schermo_.titolo));
+  intitola(schermo_.titolo);
 
   auto* riga = new QHBoxLayout;
   riga->setSpacing(14);
@@ -41,7 +41,7 @@ ColoriFinestra::ColoriFinestra(Programma& programma, QWidget* padre)
   comandi->addWidget(nota, 1);
   comandi->addWidget(fa_bottone(QStringLiteral("Applica"), schermo_.Applica,
                                 [this] { Applica_Colori(programma_, schermo_); }));
-  comandi->addWidget(fa_bottone(QStringLiteral("Chiudi"), schermo_.Chiudi, [this] { close(); }));
+  comandi->addWidget(fa_bottone(QStringLiteral("Chiudi"), schermo_.Chiudi, [this] { chiudi_dopo(); }));
 
   auto* tutto = new QVBoxLayout(this);
   tutto->setContentsMargins(18, 14, 18, 14);
@@ -111,8 +111,7 @@ QGroupBox* ColoriFinestra::fa_campioni() {
   selezionato_ = new QLabel;
   legame.lega(normale_, QStringLiteral("Normale"), schermo_.Normale);
   legame.lega(selezionato_, QStringLiteral("Selezionato"), schermo_.Selezionato);
-  QFont carattere = Carattere_Fisso(programma_.preferenze.DimFontListe);
-  carattere.setBold(false);  // not the title's weight
+  const QFont carattere = Carattere_Fisso(programma_.preferenze.DimFontListe);
   for (QLabel* campione : {normale_, selezionato_}) {
     campione->setFont(carattere);
     campione->setAutoFillBackground(true);
@@ -120,16 +119,6 @@ QGroupBox* ColoriFinestra::fa_campioni() {
     colonna->addWidget(campione);
   }
   return riquadro;
-}
-
-QPushButton* ColoriFinestra::fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento) {
-  auto* bottone = new QPushButton;
-  bottone->setFont(Carattere(punti_normali));
-  bottone->setAutoDefault(true);  // Enter presses it
-  bottone->setMinimumWidth(bottone->fontMetrics().averageCharWidth() * 20);
-  bottone->setMinimumHeight(bottone->fontMetrics().height() * 2);
-  legame.lega(bottone, nome, stato, std::move(evento));
-  return bottone;
 }
 
 void ColoriFinestra::mostra() {

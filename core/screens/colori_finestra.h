@@ -5,7 +5,6 @@
 
 class QGroupBox;
 class QLabel;
-class QPushButton;
 
 // The colours screen `Colori`: ink and background of the ledger lists.
 class ColoriFinestra : public FinestraModulo {
@@ -19,7 +18,6 @@ class ColoriFinestra : public FinestraModulo {
   QGroupBox* fa_inchiostri();
   QGroupBox* fa_fondo();
   QGroupBox* fa_campioni();
-  QPushButton* fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento);
 
   Programma& programma_;
   SchermoColori schermo_;

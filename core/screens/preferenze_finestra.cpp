@@ -117,7 +117,7 @@ PreferenzeFinestra::PreferenzeFinestra(Programma& programma, Vicini_Preferenze v
   schermo_.dimensioni_ddt = std::move(vicini.dimensioni_ddt);
   schermo_.personalizza = std::move(vicini.personalizza);
   Apri_Preferenze(programma_, schermo_, Fonti_Della_Macchina());
-  setWindowTitle(In_QString(schermo_.titolo));
+  intitola(schermo_.titolo);
   setFont(Carattere(punti));
 
   using Gruppi = std::initializer_list<std::pair<Gruppo, const char*>>;
@@ -160,13 +160,13 @@ QGroupBox* PreferenzeFinestra::fa_gruppo(Gruppo gruppo, const QString& titolo) {
     return [this, &schermo] { Apri_Altro_Schermo(programma_, schermo_, schermo); };
   };
   if (gruppo == Gruppo::Documenti)
-    griglia->addWidget(
-        fa_bottone(QStringLiteral("DimensioniDDT"), schermo_.DimensioniDDT, apre(schermo_.dimensioni_ddt)),
-        fine, 0, 1, 2);
+    griglia->addWidget(fa_bottone_piccolo(QStringLiteral("DimensioniDDT"), schermo_.DimensioniDDT,
+                                          apre(schermo_.dimensioni_ddt)),
+                       fine, 0, 1, 2);
   if (gruppo == Gruppo::Fatture)
-    griglia->addWidget(
-        fa_bottone(QStringLiteral("Personalizza"), schermo_.Personalizza, apre(schermo_.personalizza)), fine,
-        0, 1, 2);
+    griglia->addWidget(fa_bottone_piccolo(QStringLiteral("Personalizza"), schermo_.Personalizza,
+                                          apre(schermo_.personalizza)),
+                       fine, 0, 1, 2);
   return riquadro;
 }
 
@@ -189,11 +189,9 @@ void PreferenzeFinestra::fa_controllo(QGridLayout* griglia, const Impostazione& 
   const int riga = griglia->rowCount();
   const QString didascalia = In_QString(impostazione.didascalia);
   if (const auto spunta = schermo_.spunte.find(impostazione.chiave); spunta != schermo_.spunte.end()) {
-    auto* casella = new QCheckBox(didascalia);
+    auto* casella =
+        fa_casella(In_QString(impostazione.chiave), spunta->second, [this] { Tocca_Preferenze(schermo_); });
     casella->setFont(Carattere(punti));
-    casella->setAccessibleName(didascalia);
-    legame.lega(casella, In_QString(impostazione.chiave), spunta->second,
-                [this] { Tocca_Preferenze(schermo_); });
     griglia->addWidget(Rientra(impostazione) ? Rientrato(casella) : casella, riga, 0, 1, 2);
     return;
   }
@@ -213,12 +211,13 @@ void PreferenzeFinestra::fa_controllo(QGridLayout* griglia, const Impostazione& 
   const bool con_bottone = impostazione.chiave == "fonte";
   griglia->addWidget(valore, riga + 1, 0, 1, con_bottone ? 1 : 2);
   if (con_bottone)
-    griglia->addWidget(
-        fa_bottone(QStringLiteral("Default"), schermo_.Default, [this] { Fonte_Predefinita(schermo_); }),
-        riga + 1, 1);
+    griglia->addWidget(fa_bottone_piccolo(QStringLiteral("Default"), schermo_.Default,
+                                          [this] { Fonte_Predefinita(schermo_); }),
+                       riga + 1, 1);
 }
 
-QPushButton* PreferenzeFinestra::fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento) {
+QPushButton* PreferenzeFinestra::fa_bottone_piccolo(const QString& nome, Bottone& stato,
+                                                    Legame::Evento evento) {
   auto* bottone = new QPushButton;
   bottone->setFont(Carattere(punti));
   bottone->setAutoDefault(true);  // Enter presses it
@@ -228,14 +227,14 @@ QPushButton* PreferenzeFinestra::fa_bottone(const QString& nome, Bottone& stato,
 
 QLayout* PreferenzeFinestra::fa_comandi() {
   auto* riga = new QHBoxLayout;
-  auto* esito = new QLabel;
-  legame.lega(esito, QStringLiteral("Esito"), schermo_.Esito);
-  riga->addWidget(fa_bottone(QStringLiteral("Predefiniti"), schermo_.Predefiniti,
-                             [this] { Riempi_Predefiniti(schermo_); }));
+  auto* esito = fa_scritta(QStringLiteral("Esito"), schermo_.Esito);
+  esito->setFont(Carattere(punti));
+  riga->addWidget(fa_bottone_piccolo(QStringLiteral("Predefiniti"), schermo_.Predefiniti,
+                                     [this] { Riempi_Predefiniti(schermo_); }));
   riga->addWidget(esito, 1);
-  riga->addWidget(fa_bottone(QStringLiteral("Applica"), schermo_.Applica,
-                             [this] { Applica_Preferenze(programma_, schermo_); }));
-  riga->addWidget(fa_bottone(QStringLiteral("Chiudi"), schermo_.Chiudi, [this] { close(); }));
+  riga->addWidget(fa_bottone_piccolo(QStringLiteral("Applica"), schermo_.Applica,
+                                     [this] { Applica_Preferenze(programma_, schermo_); }));
+  riga->addWidget(fa_bottone_piccolo(QStringLiteral("Chiudi"), schermo_.Chiudi, [this] { chiudi_dopo(); }));
   for (int i = 0; i < riga->count(); ++i)
     if (auto* bottone = qobject_cast<QPushButton*>(riga->itemAt(i)->widget())) {
       bottone->setMinimumWidth(bottone->fontMetrics().averageCharWidth() * 20);

@@ -25,7 +25,7 @@ class PreferenzeFinestra : public FinestraModulo {
   QGroupBox* fa_gruppo(Gruppo gruppo, const QString& titolo);
   void fa_controllo(QGridLayout* griglia, const Impostazione& impostazione);
   QWidget* fa_valore(const Impostazione& impostazione);
-  QPushButton* fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento);
+  QPushButton* fa_bottone_piccolo(const QString& nome, Bottone& stato, Legame::Evento evento);
   QLayout* fa_comandi();
 
   Programma& programma_;

@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "lists/screens/parti.h"
 #include "platform/aspetto.h"
 #include "platform/testo_qt.h"
 
@@ -16,7 +15,8 @@ DimDDTFinestra::DimDDTFinestra(Programma& programma, QWidget* padre)
       programma_(programma),
       schizzo_(new SchizzoDDT(this)) {
   Apri_DimDDT(programma_, schermo_);
-  setWindowTitle(In_QString(schermo_.titolo));
+  intitola(schermo_.titolo);
+  si_chiude(schermo_.chiusa, [this] { Chiudi_DimDDT(schermo_); });
   setFont(Carattere(punti_normali));
 
   const Gruppo_Campi misure[] = {
@@ -35,17 +35,16 @@ DimDDTFinestra::DimDDTFinestra(Programma& programma, QWidget* padre)
        {"PredefinitoIntestazione"},
        true},
       {"&Titolo", {"TitoloBolla"}, {"PredefinitoTitolo"}, true},
-      {"&Piede", {"PiedePaginaBolla1", "PiedePaginaBolla2"}, {"PredefinitoPiede"}, true}};
+      {"&Piede",
+       {"PiedePaginaBolla1", "PiedePaginaBolla2"},
+       {"PredefinitoPiede"},
+       true,
+       &schermo_.FlagPiedePagina}};
   auto* sinistra = new QVBoxLayout;
   for (const Gruppo_Campi& gruppo : misure) sinistra->addWidget(fa_gruppo(gruppo));
   sinistra->addStretch();
   auto* destra = new QVBoxLayout;
   for (const Gruppo_Campi& gruppo : testi) destra->addWidget(fa_gruppo(gruppo));
-  auto* piede = new QCheckBox;
-  legame.lega(piede, QStringLiteral("FlagPiedePagina"), schermo_.FlagPiedePagina);
-  piede->setText(In_QString(schermo_.FlagPiedePagina.didascalia));
-  piede->setAccessibleName(piede->text());
-  destra->addWidget(piede);
   destra->addStretch();
   auto* affiancate = new QHBoxLayout;
   affiancate->setSpacing(14);
@@ -62,17 +61,20 @@ DimDDTFinestra::DimDDTFinestra(Programma& programma, QWidget* padre)
 }
 
 QGroupBox* DimDDTFinestra::fa_gruppo(const Gruppo_Campi& gruppo) {
-  auto* riquadro = new QGroupBox(QString::fromUtf8(gruppo.titolo));
-  riquadro->setFont(Carattere(punti_normali, true));
+  auto* riquadro = Riquadro_Titolato(QString::fromUtf8(gruppo.titolo));
   auto* griglia = new QGridLayout(riquadro);
   griglia->setVerticalSpacing(5);
   for (const Vista chiave : gruppo.campi) fa_campo(griglia, chiave, gruppo.testi);
-  auto* bottoni = new QVBoxLayout;
+  auto* sotto = new QHBoxLayout;
+  if (gruppo.spunta) sotto->addWidget(fa_casella(QStringLiteral("FlagPiedePagina"), *gruppo.spunta));
+  sotto->addStretch();
+  auto* bottoni = new QVBoxLayout;  // all as wide as the widest
+  bottoni->setSpacing(5);
   for (const Vista nome : gruppo.predefiniti)
     bottoni->addWidget(fa_bottone(In_QString(nome), schermo_.predefiniti.find(nome)->second,
-                                  [this, nome] { Riempi_DimDDT(programma_, schermo_, nome); }),
-                       0, Qt::AlignRight);
-  griglia->addLayout(bottoni, griglia->rowCount(), 0, 1, 2);
+                                  [this, nome] { Riempi_DimDDT(programma_, schermo_, nome); }));
+  sotto->addLayout(bottoni);
+  griglia->addLayout(sotto, griglia->rowCount(), 0, 1, 2);
   return riquadro;
 }
 
@@ -85,9 +87,7 @@ void DimDDTFinestra::fa_campo(QGridLayout* griglia, Vista chiave, bool testo) {
   Scritta& didascalia = schermo_.didascalie.find(chiave)->second;
   campo->setAccessibleName(didascalia.testo.empty() ? nome : In_QString(didascalia.testo));
   if (!didascalia.testo.empty()) {
-    auto* scritta = new QLabel;
-    scritta->setFont(Carattere(punti_normali));
-    legame.lega(scritta, QStringLiteral("Caption_") + nome, didascalia);
+    auto* scritta = fa_scritta(QStringLiteral("Caption_") + nome, didascalia);
     scritta->setBuddy(campo);
     griglia->addWidget(scritta, riga, 0, 1, testo ? 2 : 1);
   }
@@ -110,16 +110,7 @@ QBoxLayout* DimDDTFinestra::fa_comandi() {
   return riga;
 }
 
-QPushButton* DimDDTFinestra::fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento) {
-  QPushButton* bottone = Fa_Bottone(stato);
-  legame.lega(bottone, nome, stato, std::move(evento));
-  return bottone;
-}
-
 void DimDDTFinestra::mostra() {
   Finestra::mostra();
   schizzo_->mostra(Schizzo(programma_, schermo_));
-  if (!schermo_.chiusa) return;
-  schermo_.chiusa = false;  // asked once
-  QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
 }

@@ -9,7 +9,6 @@
 class QBoxLayout;
 class QGridLayout;
 class QGroupBox;
-class QPushButton;
 
 // The page of the transport and sanitary documents, `DimDDT`.
 class DimDDTFinestra : public FinestraModulo {
@@ -25,13 +24,13 @@ class DimDDTFinestra : public FinestraModulo {
     const char* titolo;
     std::initializer_list<Vista> campi;
     std::initializer_list<Vista> predefiniti;
-    bool testi;  // long texts take the whole width, under one caption
+    bool testi;                // long texts take the whole width, under one caption
+    Spunta* spunta = nullptr;  // whether they are printed
   };
 
   QGroupBox* fa_gruppo(const Gruppo_Campi& gruppo);
   void fa_campo(QGridLayout* griglia, Vista chiave, bool testo);
   QBoxLayout* fa_comandi();
-  QPushButton* fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento);
 
   Programma& programma_;
   DimDDT schermo_;

@@ -7,10 +7,8 @@
 
 class QBoxLayout;
 class QGroupBox;
-class QLineEdit;
 class QListView;
 class QMenuBar;
-class QPushButton;
 
 // The day's transport and sanitary documents, `Zsani`.
 class ZsaniFinestra : public Finestra {
@@ -23,21 +21,17 @@ class ZsaniFinestra : public Finestra {
   void mostra() override;
 
  protected:
-  void keyPressEvent(QKeyEvent* evento) override;
-  void closeEvent(QCloseEvent* evento) override;
+  bool tasto(const Pressione& pressione) override;
 
  private:
   QMenuBar* fa_menu();
   QWidget* fa_lista();
   QBoxLayout* fa_ordini();
-  QGroupBox* fa_voce();
+  QGroupBox* fa_documento();
   QGroupBox* fa_numerazione();
   QGroupBox* fa_stampa();
-  QLineEdit* fa_campo(const QString& nome, CampoTesto& stato, const Scritta& didascalia);
-  QPushButton* fa_bottone(int numero, Bottone& stato, Legame::Evento evento);
 
   Programma& programma_;
   Zsani zsani_;
   QListView* lista_ = nullptr;
-  bool in_chiusura_ = false;
 };

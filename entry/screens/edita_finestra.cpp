@@ -179,15 +179,14 @@ bool EditaFinestra::carattere(int indice, QKeyEvent& evento) {
   if (testo.size() != 1 || !testo[0].isPrint() || evento.modifiers().testFlag(Qt::ControlModifier))
     return false;
   CasellaTesto* campo = campi_[static_cast<std::size_t>(indice)];
-  QString resta = campo->text();
-  if (campo->hasSelectedText()) resta.remove(campo->selectionStart(), campo->selectedText().size());
+  const Testo resta = Testo_Che_Resta(*campo);
   const char prima = Da_QString(testo)[0];
   bool chiede_nota = false;
   legame.esegui([&] {
     chiede_nota = ChiediNotaAcc(edita_, indice, prima, static_cast<std::size_t>(campo->cursorPosition()));
   });
   if (chiede_nota) return true;
-  const char dopo = FiltraCarattere(programma_, edita_, indice, Da_QString(resta), prima);
+  const char dopo = FiltraCarattere(programma_, edita_, indice, resta, prima);
   if (dopo == 0) return true;
   if (dopo == prima) return false;
   QKeyEvent nostro(QEvent::KeyPress, 0, Qt::NoModifier, In_QString(Vista(&dopo, 1)));
@@ -199,24 +198,18 @@ bool EditaFinestra::carattere(int indice, QKeyEvent& evento) {
 
 bool EditaFinestra::tasto_lista(QKeyEvent& evento) {
   const Pressione pressione = Da_QKeyEvent(evento);
-  bool usata = false;
-  legame.esegui([&] {
-    usata = TastoList1(programma_, edita_, pressione) || TastoSchermo(programma_, edita_, pressione);
+  return legame.usa([&] {
+    return TastoList1(programma_, edita_, pressione) || TastoSchermo(programma_, edita_, pressione);
   });
-  return usata;
 }
 
-void EditaFinestra::keyPressEvent(QKeyEvent* evento) {
-  const Pressione pressione = Da_QKeyEvent(*evento);
+bool EditaFinestra::tasto(const Pressione& pressione) {
   if (pressione.tasto == Tasto::F12 && pressione.Nudo()) {
     emit riduci();
-    return;
+    return true;
   }
-  // A field has already offered the key to the screen.
-  bool usata = false;
-  if (indice_di(QApplication::focusWidget()) < 0)
-    legame.esegui([&] { usata = TastoSchermo(programma_, edita_, pressione); });
-  if (!usata) Finestra::keyPressEvent(evento);
+  if (indice_di(QApplication::focusWidget()) >= 0) return false;  // the field has offered it to the screen
+  return legame.usa([&] { return TastoSchermo(programma_, edita_, pressione); });
 }
 
 // ---- events
@@ -298,9 +291,7 @@ void EditaFinestra::fuoco_campo(int indice, Qt::FocusReason motivo) {
 
 void EditaFinestra::mostra() {
   const QWidget* prima = QApplication::focusWidget();
-  legame.mostra();
-  const QString titolo = In_QString(edita_.titolo);
-  if (windowTitle() != titolo) setWindowTitle(titolo);
+  Finestra::mostra();
   luce_->mostra(edita_.SemaforoRiga);
   for (int i = 0; i < Num_Campi; ++i)
     if (const int casella = CasellaCampo(i); casella > 0)

@@ -45,7 +45,7 @@ class EditaFinestra : public Finestra {
 
  protected:
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
-  void keyPressEvent(QKeyEvent* evento) override;
+  bool tasto(const Pressione& pressione) override;
   void resizeEvent(QResizeEvent* evento) override;
 
  private:

@@ -1,12 +1,9 @@
 #include "entry/liste_campi.h"
 #include "entry/screens/edita_finestra.h"
 #include "lists/mappe.h"
-#include "lists/screens/clienti_finestra.h"
 #include "lists/screens/esclusi_finestra.h"
-#include "lists/screens/fornitori_finestra.h"
 #include "lists/screens/liste_finestre.h"
 #include "lists/screens/mappa_finestra.h"
-#include "lists/screens/vettori_finestra.h"
 #include "platform/testo_qt.h"
 
 // The list windows and maps that the entry form opens, and what they bring back.

@@ -53,20 +53,20 @@ constexpr Cella celle[] = {
     {Lotti, 3, 12, 8, Misura::Massima},
     {Colli, 3, 20, 4, Misura::Massima},
     {Commento, 4, 0, 5, Misura::Piccola},
-    {Allergeni, 4, 5, 3, Misura::Piccola},
-    {DDT_CV, 4, 8, 4, Misura::Piccola},
+    {Allergeni, 4, 5, 4, Misura::Piccola},
+    {DDT_CV, 4, 9, 3, Misura::Piccola},
     {NCV, 4, 12, 3, Misura::Piccola},
     {DataCV, 4, 15, 2, Misura::Piccola},
     {SAnt, 4, 17, 3, Misura::Piccola},
     {Provvigione, 4, 20, 2, Misura::Piccola},
     {Controllato, 4, 22, 2, Misura::Piccola},
-    {NomeLatino, 5, 0, 4, Misura::Piccola},
-    {Famiglia, 5, 4, 3, Misura::Piccola},
-    {NomeComune, 5, 7, 5, Misura::Piccola},
-    {CodNumVeritas, 5, 12, 4, Misura::Piccola},
-    {Alfa, 5, 16, 2, Misura::Piccola},
-    {DDT, 5, 18, 3, Misura::Piccola},
-    {FAT, 5, 21, 3, Misura::Piccola},
+    {NomeLatino, 5, 0, 3, Misura::Piccola},
+    {Famiglia, 5, 3, 2, Misura::Piccola},
+    {NomeComune, 5, 5, 5, Misura::Piccola},
+    {CodNumVeritas, 5, 10, 4, Misura::Piccola},
+    {Alfa, 5, 14, 2, Misura::Piccola},
+    {DDT, 5, 16, 4, Misura::Piccola},
+    {FAT, 5, 20, 4, Misura::Piccola},
 };
 
 // Letters as multiples of the entry screen's text size.
@@ -157,12 +157,12 @@ void EditaFinestra::fa_cella(QGridLayout* griglia, const Cella& cella) {
     Con_Carattere(titolo, 1);
     titolo->setMinimumWidth(1);  // a long caption never widens its column
     Tiene_Posto(titolo);
-    testa->addWidget(titolo, 1);
+    testa->addWidget(titolo, 1, Qt::AlignBottom);  // all captions of a line on one height
   }
   if (const Finestra_Campo* finestra = FinestraDelCampo(indice); finestra && finestra->campo == cella.campo)
     testa->addWidget(fa_bottone_lista(*finestra));
   if (cella.campo == DDT || cella.campo == FAT) {
-    auto* bottone = new QPushButton;
+    auto* bottone = new QToolButton;  // no wider than its word: the caption beside it stays whole
     const bool ddt = cella.campo == DDT;
     const CampoRiga campo = cella.campo;
     legame.lega(bottone, ddt ? QStringLiteral("BottoneDDT") : QStringLiteral("BottoneFAT"),
@@ -180,7 +180,7 @@ void EditaFinestra::fa_cella(QGridLayout* griglia, const Cella& cella) {
     spunta->setFocusPolicy(Qt::TabFocus);
     spunta->setStyleSheet(QStringLiteral("QCheckBox::indicator { width: 1.3em; height: 1.3em; }"));
     Con_Carattere(spunta, 1.1);
-    testa->addWidget(spunta);
+    testa->addWidget(spunta, 0, Qt::AlignBottom);
   }
   colonna->addLayout(testa);
 
@@ -332,10 +332,6 @@ void EditaFinestra::fa_sopra() {
   lista_->setLineWidth(2);
   lista_->setAccessibleName(QStringLiteral("Voci"));
   Con_Carattere(lista_, 1.4);
-  QPalette tavolozza = lista_->palette();
-  for (const auto ruolo : {QPalette::Highlight, QPalette::HighlightedText})
-    tavolozza.setColor(QPalette::Inactive, ruolo, tavolozza.color(QPalette::Active, ruolo));
-  lista_->setPalette(tavolozza);
   legame.lega(lista_, QStringLiteral("List1"), edita_.List1);
   lista_->installEventFilter(this);
   lista_->viewport()->installEventFilter(this);
@@ -397,6 +393,7 @@ void EditaFinestra::adatta_caratteri() {
 
 EditaFinestra::EditaFinestra(Programma& programma, Edita& edita, QWidget* padre)
     : Finestra(QStringLiteral("Edita"), padre), programma_(programma), edita_(edita) {
+  intitola(edita_.titolo);
   prepara_azioni();
   auto* tutto = new QHBoxLayout(this);
   tutto->setContentsMargins(8, 4, 6, 4);

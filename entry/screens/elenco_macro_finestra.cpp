@@ -2,13 +2,11 @@
 
 #include <QAction>
 #include <QBoxLayout>
-#include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
 #include <QMenuBar>
 #include <QScreen>
-#include <QScrollBar>
 
 #include "entry/screens/davanti.h"
 #include "platform/aspetto.h"
@@ -30,32 +28,30 @@ QLabel* Etichetta(const QString& testo, QWidget* compagno) {
 
 ElencoMacroFinestra::ElencoMacroFinestra(Programma& programma, Edita& edita, Tipo_Macro tipo, bool dal_campo,
                                          QWidget* padre)
-    : Finestra(tipo == Tipo_Macro::Specie ? QStringLiteral("DescPre") : QStringLiteral("DescPreFOR"), padre,
-               Qt::Window),
+    : FinestraDavanti(tipo == Tipo_Macro::Specie ? QStringLiteral("DescPre") : QStringLiteral("DescPreFOR"),
+                      padre, Qt::Window),
       programma_(programma),
       edita_(edita),
       lista_(new QListView) {
   Apri_ElencoMacro(programma_, elenco_, tipo, dal_campo);
-  codice_ = fa_casella(QStringLiteral("Text1"), elenco_.Text1);
-  cerca_ = fa_casella(QStringLiteral("Text2"), elenco_.Text2);
-  codice_->setAccessibleName(QStringLiteral("Codice"));
-  cerca_->setAccessibleName(QStringLiteral("Cerca"));
+  intitola(elenco_.titolo);
+  si_chiude(elenco_.chiusa);
+  connect(this, &Finestra::chiusa, this, [this] { Chiudi_ElencoMacro(edita_, elenco_); });
+  codice_ = fa_ricerca(QStringLiteral("Text1"), elenco_.Text1, QStringLiteral("Codice"));
+  cerca_ = fa_ricerca(QStringLiteral("Text2"), elenco_.Text2, QStringLiteral("Cerca"));
+  legame.invio(codice_, [this] { EseguiCodice(programma_, edita_, elenco_); });
+  legame.invio(cerca_, [this] { CercaMacro(elenco_); });
   auto* etichetta_codice = Etichetta(QStringLiteral("Co&dice"), codice_);
   auto* etichetta_cerca = Etichetta(QStringLiteral("Cer&ca"), cerca_);
   codice_->setMaximumWidth(codice_->fontMetrics().averageCharWidth() * 14);
   cerca_->setMaximumWidth(cerca_->fontMetrics().averageCharWidth() * 30);
 
-  auto* esito = new QLabel;
-  esito->setTextFormat(Qt::PlainText);
+  auto* esito = fa_scritta(QStringLiteral("Esito"), elenco_.Esito);
   esito->setFont(Carattere(punti_normali, true));
-  legame.lega(esito, QStringLiteral("Esito"), elenco_.Esito);
 
-  auto* stampante = new QLabel;
-  stampante->setTextFormat(Qt::PlainText);
-  stampante->setFont(Carattere(punti_normali));
-  stampante->setAlignment(Qt::AlignRight);
   MostraStampante(programma_, elenco_);
-  legame.lega(stampante, QStringLiteral("Stampante"), elenco_.Stampante);
+  auto* stampante = fa_scritta(QStringLiteral("Stampante"), elenco_.Stampante);
+  stampante->setAlignment(Qt::AlignRight);
 
   lista_->setFont(Carattere_Fisso(programma_.preferenze.DimFontListe));
   lista_->setUniformItemSizes(true);
@@ -65,7 +61,8 @@ ElencoMacroFinestra::ElencoMacroFinestra(Programma& programma, Edita& edita, Tip
   lista_->setAccessibleName(QStringLiteral("Macro"));
   legame.lega(lista_, QStringLiteral("List1"), elenco_.List1);
   lista_->installEventFilter(this);
-  connect(lista_, &QListView::doubleClicked, this, [this] { esegui_e_chiudi(EseguiScelta); });
+  connect(lista_, &QListView::doubleClicked, this,
+          [this] { legame.esegui([this] { EseguiScelta(programma_, edita_, elenco_); }); });
 
   auto* sopra = new QHBoxLayout;
   sopra->setSpacing(8);
@@ -93,9 +90,10 @@ ElencoMacroFinestra::ElencoMacroFinestra(Programma& programma, Edita& edita, Tip
   lista_->setFocus();
 }
 
-CasellaTesto* ElencoMacroFinestra::fa_casella(const QString& nome, CampoTesto& stato) {
+CasellaTesto* ElencoMacroFinestra::fa_ricerca(const QString& nome, CampoTesto& stato, const QString& letta) {
   auto* casella = new CasellaTesto;
   casella->setFont(Carattere(punti_grandi));
+  casella->setAccessibleName(letta);
   legame.lega(casella, nome, stato);
   casella->installEventFilter(this);
   return casella;
@@ -105,15 +103,10 @@ QMenuBar* ElencoMacroFinestra::fa_menu() {
   auto* barra = new QMenuBar;
   barra->setFont(Carattere(punti_normali));
   const auto voce = [&](const QString& nome, Bottone& stato, const Legame::Evento& evento) {
-    auto* azione = barra->addAction(QString());
-    legame.lega(azione, QStringLiteral("menu ") + nome, stato, evento);
-    return azione;
+    legame.lega(barra->addAction(QString()), QStringLiteral("menu ") + nome, stato, evento);
   };
-  const auto copia = [this] { EseguiScelta(programma_, edita_, elenco_); };
-  connect(voce(QStringLiteral("Chiudi"), elenco_.Chiudi, {}), &QAction::triggered, this, &QWidget::close);
-  connect(voce(QStringLiteral("Copia"), elenco_.Copia, copia), &QAction::triggered, this, [this] {
-    if (elenco_.chiusa) close();
-  });
+  voce(QStringLiteral("Chiudi"), elenco_.Chiudi, [this] { chiudi_dopo(); });
+  voce(QStringLiteral("Copia"), elenco_.Copia, [this] { EseguiScelta(programma_, edita_, elenco_); });
   voce(QStringLiteral("Elimina"), elenco_.Elimina, [this] { EliminaMacro(programma_, elenco_); });
   voce(QStringLiteral("Rinomina"), elenco_.Rinomina, [this] { RinominaMacro(programma_, elenco_); });
   voce(QStringLiteral("Stampa"), elenco_.Stampa, [this] { StampaMacro(programma_, elenco_); });
@@ -121,47 +114,25 @@ QMenuBar* ElencoMacroFinestra::fa_menu() {
   return barra;
 }
 
-void ElencoMacroFinestra::mostra() {
-  Finestra::mostra();
-  const QString titolo = In_QString(elenco_.titolo);
-  if (windowTitle() != titolo) setWindowTitle(titolo);
-}
-
-void ElencoMacroFinestra::esegui_e_chiudi(void (*routine)(Programma&, Edita&, Elenco_Macro&)) {
-  legame.esegui([&] { routine(programma_, edita_, elenco_); });
-  if (elenco_.chiusa) close();
-}
-
 bool ElencoMacroFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
   if (evento->type() != QEvent::KeyPress) return Finestra::eventFilter(oggetto, evento);
   const auto& tasto = *static_cast<QKeyEvent*>(evento);
-  if (oggetto == lista_ ? tasto_lista(tasto) : tasto_casella(oggetto, tasto)) return true;
+  if (oggetto == lista_ ? tasto_lista(tasto) : tasto_casella(tasto)) return true;
   return Finestra::eventFilter(oggetto, evento);
 }
 
-bool ElencoMacroFinestra::tasto_casella(const QObject* casella, const QKeyEvent& evento) {
+bool ElencoMacroFinestra::tasto_casella(const QKeyEvent& evento) {
   const Pressione pressione = Da_QKeyEvent(evento);
-  if (!pressione.Nudo()) return false;
-  switch (pressione.tasto) {
-    case Tasto::Invio:
-      if (casella == codice_)
-        esegui_e_chiudi(EseguiCodice);
-      else
-        legame.esegui([this] { CercaMacro(elenco_); });
-      return true;
-    case Tasto::Giu:
-      lista_->setFocus(Qt::OtherFocusReason);
-      return true;
-    default:
-      return false;
-  }
+  const bool giu = pressione.tasto == Tasto::Giu && pressione.Nudo();
+  if (giu) lista_->setFocus(Qt::OtherFocusReason);
+  return giu;
 }
 
 bool ElencoMacroFinestra::tasto_lista(const QKeyEvent& evento) {
   const Pressione pressione = Da_QKeyEvent(evento);
   if (pressione.ctrl || pressione.alt) return false;
   if (pressione.tasto == Tasto::Invio) {
-    esegui_e_chiudi(EseguiScelta);
+    legame.esegui([this] { EseguiScelta(programma_, edita_, elenco_); });
     return true;
   }
   if (pressione.tasto == Tasto::Canc) {
@@ -172,20 +143,6 @@ bool ElencoMacroFinestra::tasto_lista(const QKeyEvent& evento) {
   if (testo.size() != 1 || !testo[0].isPrint()) return false;
   legame.esegui([&] { SaltaMacro(elenco_, Da_QString(testo)[0]); });
   return true;
-}
-
-void ElencoMacroFinestra::keyPressEvent(QKeyEvent* evento) {
-  const Pressione pressione = Da_QKeyEvent(*evento);
-  if (pressione.tasto == Tasto::Esc && pressione.Nudo())
-    close();
-  else
-    Finestra::keyPressEvent(evento);
-}
-
-void ElencoMacroFinestra::closeEvent(QCloseEvent* evento) {
-  if (occupata()) return evento->ignore();  // a question of this window waits for its answer
-  Chiudi_ElencoMacro(edita_, elenco_);
-  Finestra::closeEvent(evento);
 }
 
 void Apri_DescPre(Programma& programma, Edita& edita, Tipo_Macro tipo, bool dal_campo, Finestra* padre) {

@@ -9,25 +9,21 @@ class QListView;
 class QMenuBar;
 
 // DescPre and DescPreFOR: the stored macros, with a box for a code and one for a text to look for.
-class ElencoMacroFinestra : public Finestra {
+class ElencoMacroFinestra : public FinestraDavanti {
   Q_OBJECT
 
  public:
   ElencoMacroFinestra(Programma& programma, Edita& edita, Tipo_Macro tipo, bool dal_campo,
                       QWidget* padre = nullptr);
-  void mostra() override;
 
  protected:
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
-  void keyPressEvent(QKeyEvent* evento) override;
-  void closeEvent(QCloseEvent* evento) override;
 
  private:
   QMenuBar* fa_menu();
-  CasellaTesto* fa_casella(const QString& nome, CampoTesto& stato);
-  bool tasto_casella(const QObject* casella, const QKeyEvent& evento);
+  CasellaTesto* fa_ricerca(const QString& nome, CampoTesto& stato, const QString& letta);
+  bool tasto_casella(const QKeyEvent& evento);
   bool tasto_lista(const QKeyEvent& evento);
-  void esegui_e_chiudi(void (*routine)(Programma&, Edita&, Elenco_Macro&));
 
   Programma& programma_;
   Edita& edita_;

@@ -1,7 +1,6 @@
 #include "entry/screens/lotti_finestra.h"
 
 #include <QBoxLayout>
-#include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
@@ -10,17 +9,17 @@
 #include "entry/screens/davanti.h"
 #include "platform/aspetto.h"
 #include "platform/tasti_qt.h"
-#include "platform/testo_qt.h"
 
 LottiFinestra::LottiFinestra(Programma& programma, Edita& edita, Lotti_Predefiniti& lotti, QWidget* padre)
-    : Finestra(QStringLiteral("Lotti_predefiniti"), padre, Qt::Window),
+    : FinestraDavanti(QStringLiteral("Lotti_predefiniti"), padre, Qt::Window),
       programma_(programma),
       edita_(edita),
       lotti_(lotti),
       lotto_(new CasellaTesto),
       lista_(new QListView) {
   Apri_LottiPredefiniti(programma_, lotti_);
-  setWindowTitle(In_QString(lotti_.titolo));
+  intitola(lotti_.titolo);
+  si_chiude(lotti_.chiusa);
 
   auto* etichetta = new QLabel(QStringLiteral("&Lotto"));
   etichetta->setFont(Carattere(punti_normali));
@@ -28,6 +27,7 @@ LottiFinestra::LottiFinestra(Programma& programma, Edita& edita, Lotti_Predefini
   lotto_->setFont(Carattere(punti_grandi, true));
   lotto_->setAccessibleName(QStringLiteral("Lotto"));
   legame.lega(lotto_, QStringLiteral("Text1"), lotti_.Text1);
+  legame.invio(lotto_, [this] { aggiungi(); });
   lotto_->installEventFilter(this);
 
   lista_->setFont(Carattere_Fisso(programma_.preferenze.DimFontListe));
@@ -35,8 +35,10 @@ LottiFinestra::LottiFinestra(Programma& programma, Edita& edita, Lotti_Predefini
   lista_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   lista_->setAccessibleName(QStringLiteral("Lotti predefiniti"));
   legame.lega(lista_, QStringLiteral("List1"), lotti_.List1);
+  const auto scegli = [this] { ScegliLotto(edita_, lotti_); };
+  legame.invio(lista_, scegli);
   lista_->installEventFilter(this);
-  connect(lista_, &QListView::clicked, this, [this] { scegli(); });
+  connect(lista_, &QListView::clicked, this, [this, scegli] { legame.esegui(scegli); });
 
   auto* bottoni = new QVBoxLayout;
   bottoni->setSpacing(8);
@@ -50,9 +52,7 @@ LottiFinestra::LottiFinestra(Programma& programma, Edita& edita, Lotti_Predefini
   bottoni->addWidget(
       fa_bottone(QStringLiteral("Elimina"), lotti_.Elimina, [this] { EliminaLotto(programma_, lotti_); }));
   bottoni->addStretch(1);
-  auto* chiudi = fa_bottone(QStringLiteral("Chiudi"), lotti_.Chiudi, {});
-  connect(chiudi, &QPushButton::clicked, this, &QWidget::close);
-  bottoni->addWidget(chiudi);
+  bottoni->addWidget(fa_bottone(QStringLiteral("Chiudi"), lotti_.Chiudi, [this] { chiudi_dopo(); }));
 
   auto* colonna = new QVBoxLayout;
   colonna->setSpacing(6);
@@ -74,25 +74,10 @@ LottiFinestra::LottiFinestra(Programma& programma, Edita& edita, Lotti_Predefini
     lista_->setFocus();
 }
 
-QPushButton* LottiFinestra::fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento) {
-  auto* bottone = new QPushButton;
-  bottone->setFont(Carattere(punti_normali));
-  bottone->setAutoDefault(true);  // Enter presses it
-  bottone->setMinimumSize(bottone->fontMetrics().averageCharWidth() * 20,
-                          bottone->fontMetrics().height() * 2);
-  legame.lega(bottone, nome, stato, std::move(evento));
-  return bottone;
-}
-
 void LottiFinestra::aggiungi() {
   AggiungiLotto(lotti_);
   lotto_->setFocus();
   lotto_->selectAll();  // the next lot is typed over it
-}
-
-void LottiFinestra::scegli() {
-  legame.esegui([this] { ScegliLotto(edita_, lotti_); });
-  if (lotti_.chiusa) close();
 }
 
 bool LottiFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
@@ -103,13 +88,6 @@ bool LottiFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
   if (evento->type() != QEvent::KeyPress) return Finestra::eventFilter(oggetto, evento);
   const Pressione pressione = Da_QKeyEvent(*static_cast<QKeyEvent*>(evento));
   if (!pressione.Nudo()) return Finestra::eventFilter(oggetto, evento);
-  if (pressione.tasto == Tasto::Invio) {
-    if (oggetto == lista_)
-      scegli();
-    else
-      legame.esegui([this] { aggiungi(); });
-    return true;
-  }
   if (oggetto == lista_ && pressione.tasto == Tasto::Canc) {
     legame.esegui([this] { EliminaLotto(programma_, lotti_); });
     return true;
@@ -119,19 +97,6 @@ bool LottiFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
     return true;
   }
   return Finestra::eventFilter(oggetto, evento);
-}
-
-void LottiFinestra::keyPressEvent(QKeyEvent* evento) {
-  const Pressione pressione = Da_QKeyEvent(*evento);
-  if (pressione.tasto == Tasto::Esc && pressione.Nudo())
-    close();
-  else
-    Finestra::keyPressEvent(evento);
-}
-
-void LottiFinestra::closeEvent(QCloseEvent* evento) {
-  if (occupata()) return evento->ignore();  // a question of this window waits for its answer
-  Finestra::closeEvent(evento);
 }
 
 void Apri_Lotti(Programma& programma, Edita& edita, Lotti_Predefiniti& lotti, Finestra* padre) {

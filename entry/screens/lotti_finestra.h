@@ -6,11 +6,10 @@
 
 class CasellaTesto;
 class QListView;
-class QPushButton;
 
 // Lotti_predefiniti: the firm's list of lots. A click on a lot, or Enter, writes it into the row; the arrows
 // and the right button only mark it.
-class LottiFinestra : public Finestra {
+class LottiFinestra : public FinestraDavanti {
   Q_OBJECT
 
  public:
@@ -18,13 +17,9 @@ class LottiFinestra : public Finestra {
 
  protected:
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
-  void keyPressEvent(QKeyEvent* evento) override;
-  void closeEvent(QCloseEvent* evento) override;
 
  private:
-  QPushButton* fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento);
   void aggiungi();
-  void scegli();
 
   Programma& programma_;
   Edita& edita_;

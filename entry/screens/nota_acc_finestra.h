@@ -9,7 +9,7 @@ class CasellaTesto;
 class QPushButton;
 
 // The dialog of the credit note, `NotaAcc`.
-class NotaAccFinestra : public Finestra {
+class NotaAccFinestra : public FinestraDavanti {
   Q_OBJECT
 
  public:
@@ -19,19 +19,14 @@ class NotaAccFinestra : public Finestra {
 
  protected:
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
-  void keyPressEvent(QKeyEvent* evento) override;
-  void closeEvent(QCloseEvent* evento) override;
 
  private:
-  QPushButton* fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento);
   int indice_di(const QObject* oggetto) const;  // of the field, -1 for none
-  bool tasto(int indice, QKeyEvent& evento);
-  void annulla();
+  bool tasto_campo(int indice, const QKeyEvent& evento);
 
   Programma& programma_;
   Edita& edita_;
   NotaAcc nota_;
   std::array<CasellaTesto*, 3> campi_{};
   QPushButton* conferma_ = nullptr;
-  bool in_chiusura_ = false;
 };

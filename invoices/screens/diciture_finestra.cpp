@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "lists/screens/parti.h"
 #include "platform/aspetto.h"
 #include "platform/testo_qt.h"
 
@@ -25,7 +24,8 @@ constexpr Nomi_Serie nomi[] = {
 DicitureFinestra::DicitureFinestra(Programma& programma, QWidget* padre)
     : FinestraModulo(QStringLiteral("Personalizza_Fattura"), padre, Qt::Window), programma_(programma) {
   Apri_Personalizza(programma_, schermo_);
-  setWindowTitle(In_QString(schermo_.titolo));
+  intitola(schermo_.titolo);
+  si_chiude(schermo_.chiusa, [this] { Chiudi_Personalizza(schermo_); });
   setFont(Carattere(punti_normali));
   auto* griglia = new QGridLayout;
   griglia->setSpacing(14);
@@ -44,8 +44,7 @@ DicitureFinestra::DicitureFinestra(Programma& programma, QWidget* padre)
 QGroupBox* DicitureFinestra::fa_serie(Serie_Dicitura quale) {
   const auto posto = static_cast<std::size_t>(quale);
   Serie_Campi& serie = schermo_.serie[posto];
-  auto* riquadro = new QGroupBox(In_QString(serie.didascalia.testo));
-  riquadro->setFont(Carattere(punti_normali, true));
+  auto* riquadro = Riquadro_Titolato(In_QString(serie.didascalia.testo));
   auto* colonna = new QVBoxLayout(riquadro);
   colonna->setSpacing(5);
   for (std::size_t i = 0; i < serie.campi.size(); ++i) {
@@ -69,26 +68,10 @@ QGroupBox* DicitureFinestra::fa_serie(Serie_Dicitura quale) {
 
 QBoxLayout* DicitureFinestra::fa_comandi() {
   auto* riga = new QHBoxLayout;
-  auto* esito = new QLabel;
-  esito->setFont(Carattere(punti_normali));
-  legame.lega(esito, QStringLiteral("Esito"), schermo_.Esito);
-  riga->addWidget(esito, 1);
+  riga->addWidget(fa_scritta(QStringLiteral("Esito"), schermo_.Esito), 1);
   riga->addWidget(fa_bottone(QStringLiteral("Command2"), schermo_.Command2,
                              [this] { Applica_Personalizza(programma_, schermo_); }));
   riga->addWidget(
       fa_bottone(QStringLiteral("Command3"), schermo_.Command3, [this] { Chiudi_Personalizza(schermo_); }));
   return riga;
-}
-
-QPushButton* DicitureFinestra::fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento) {
-  QPushButton* bottone = Fa_Bottone(stato);
-  legame.lega(bottone, nome, stato, std::move(evento));
-  return bottone;
-}
-
-void DicitureFinestra::mostra() {
-  Finestra::mostra();
-  if (!schermo_.chiusa) return;
-  schermo_.chiusa = false;  // asked once
-  QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
 }

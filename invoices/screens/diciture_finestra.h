@@ -5,7 +5,6 @@
 
 class QBoxLayout;
 class QGroupBox;
-class QPushButton;
 
 // The wording of the graphic invoices, `Personalizza_Fattura`: four sets of six lines in sight at once.
 class DicitureFinestra : public FinestraModulo {
@@ -14,12 +13,9 @@ class DicitureFinestra : public FinestraModulo {
  public:
   explicit DicitureFinestra(Programma& programma, QWidget* padre = nullptr);
 
-  void mostra() override;
-
  private:
   QGroupBox* fa_serie(Serie_Dicitura quale);
   QBoxLayout* fa_comandi();
-  QPushButton* fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento);
 
   Programma& programma_;
   Personalizza_Fattura schermo_;

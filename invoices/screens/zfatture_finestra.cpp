@@ -6,7 +6,6 @@
 
 #include <QBoxLayout>
 #include <QCheckBox>
-#include <QCloseEvent>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -17,8 +16,8 @@
 
 #include "invoices/screens/diciture_finestra.h"
 #include "invoices/zfatture_vettore.h"
+#include "lists/screens/liste_finestre.h"
 #include "lists/screens/parti.h"
-#include "lists/screens/vettori_finestra.h"
 #include "platform/aspetto.h"
 #include "platform/tasti_qt.h"
 #include "platform/testo_qt.h"
@@ -27,14 +26,16 @@
 namespace {
 
 constexpr int caratteri_lista = 72;  // of a line of the lists
-constexpr int caratteri_spese = 8;
+constexpr int caratteri_campo = 24, caratteri_spese = 8;
 
 }  // namespace
 
 ZFattureFinestra::ZFattureFinestra(Programma& programma, ZFatture zfatture, QWidget* padre)
-    : Finestra(In_QString(zfatture.variante->nome), padre, Qt::Window),
+    : FinestraDavanti(In_QString(zfatture.variante->nome), padre, Qt::Window),
       programma_(programma),
       zfatture_(std::move(zfatture)) {
+  intitola(zfatture_.titolo);
+  si_chiude(zfatture_.chiusa, [this] { ChiudiFatture(programma_, zfatture_); });
   setFont(Carattere(punti_normali));
   auto* destra = new QVBoxLayout;
   destra->setSpacing(12);
@@ -49,28 +50,14 @@ ZFattureFinestra::ZFattureFinestra(Programma& programma, ZFatture zfatture, QWid
   affiancate->setSpacing(14);
   affiancate->addWidget(fa_liste(), 1);
   affiancate->addLayout(destra);
-
-  auto* tutto = new QVBoxLayout(this);
-  tutto->setContentsMargins(0, 0, 0, 0);
-  tutto->setMenuBar(fa_menu());
-  tutto->addLayout(affiancate, 1);
+  disponi(fa_menu(), affiancate);
   mostra();
   QListView* prima = zfatture_.ListaAttiva == TipoFattura::Fattura ? fatture_ : note_;
   prima->setFocus(Qt::OtherFocusReason);
 }
 
-QAction* ZFattureFinestra::fa_voce(QWidget* menu, const char* nome, Bottone& stato, Legame::Evento evento) {
-  auto* azione = new QAction(In_QString(stato.testo), menu);
-  menu->addAction(azione);
-  legame.lega(azione, QString::fromUtf8(nome), stato, std::move(evento));
-  return azione;
-}
-
 QMenuBar* ZFattureFinestra::fa_menu() {
   auto* barra = new QMenuBar;
-  const auto voce = [this](QWidget* menu, const char* nome, Bottone& stato, Legame::Evento evento) {
-    fa_voce(menu, nome, stato, std::move(evento));
-  };
   const auto dello_schermo = [this](void (*routine)(Programma&, ZFatture&)) {
     return [this, routine] { routine(programma_, zfatture_); };
   };
@@ -78,23 +65,26 @@ QMenuBar* ZFattureFinestra::fa_menu() {
     return [this, routine] { routine(programma_); };
   };
   QMenu* numerazione = barra->addMenu(QStringLiteral("Numerazione"));
-  voce(numerazione, "NumeraFat", zfatture_.NumeraFat, dello_schermo(NumeraFat));
-  voce(numerazione, "NumeraNA", zfatture_.NumeraNA, dello_schermo(NumeraNA));
-  voce(numerazione, "Numera_Tutto", zfatture_.Numera_Tutto, dello_schermo(NumeraTutto));
-  voce(numerazione, "Annulla_Numerazione", zfatture_.Annulla_Numerazione, dello_schermo(AnnullaNumerazione));
+  fa_voce(numerazione, QStringLiteral("NumeraFat"), zfatture_.NumeraFat, dello_schermo(NumeraFat));
+  fa_voce(numerazione, QStringLiteral("NumeraNA"), zfatture_.NumeraNA, dello_schermo(NumeraNA));
+  fa_voce(numerazione, QStringLiteral("Numera_Tutto"), zfatture_.Numera_Tutto, dello_schermo(NumeraTutto));
+  fa_voce(numerazione, QStringLiteral("Annulla_Numerazione"), zfatture_.Annulla_Numerazione,
+          dello_schermo(AnnullaNumerazione));
   numerazione->addSeparator();
-  voce(numerazione, "Aggiungi_Data", zfatture_.Aggiungi_Data, dello_schermo(AggiungiData));
-  voce(numerazione, "Togli_Data", zfatture_.Togli_Data, dello_schermo(TogliData));
+  fa_voce(numerazione, QStringLiteral("Aggiungi_Data"), zfatture_.Aggiungi_Data, dello_schermo(AggiungiData));
+  fa_voce(numerazione, QStringLiteral("Togli_Data"), zfatture_.Togli_Data, dello_schermo(TogliData));
   QMenu* elenchi = barra->addMenu(QStringLiteral("Mostra"));
-  voce(elenchi, "Mostra_Transazioni", zfatture_.Mostra_Transazioni, del_programma(MostraTransazioni));
-  voce(elenchi, "Mostra_Fatture", zfatture_.Mostra_Fatture, del_programma(MostraFatture));
-  voce(elenchi, "Mostra_Report", zfatture_.Mostra_Report, del_programma(MostraReport));
-  voce(elenchi, "Formato_Semplice", zfatture_.Formato_Semplice, del_programma(MostraFormatoSemplice));
-  voce(elenchi, "Formato_Lear", zfatture_.Formato_Lear, {});
-  voce(barra, "Personalizza_Fatture", zfatture_.Personalizza_Fatture,
-       [this] { DicitureFinestra(programma_, this).esegui(); });
-  voce(barra, "Scelta_Stampante", zfatture_.Scelta_Stampante,
-       [this] { StampanteFinestra(programma_, this).esegui(); });
+  fa_voce(elenchi, QStringLiteral("Mostra_Transazioni"), zfatture_.Mostra_Transazioni,
+          del_programma(MostraTransazioni));
+  fa_voce(elenchi, QStringLiteral("Mostra_Fatture"), zfatture_.Mostra_Fatture, del_programma(MostraFatture));
+  fa_voce(elenchi, QStringLiteral("Mostra_Report"), zfatture_.Mostra_Report, del_programma(MostraReport));
+  fa_voce(elenchi, QStringLiteral("Formato_Semplice"), zfatture_.Formato_Semplice,
+          del_programma(MostraFormatoSemplice));
+  fa_voce(elenchi, QStringLiteral("Formato_Lear"), zfatture_.Formato_Lear, {});
+  fa_voce(barra, QStringLiteral("Personalizza_Fatture"), zfatture_.Personalizza_Fatture,
+          [this] { DicitureFinestra(programma_, this).esegui(); });
+  fa_voce(barra, QStringLiteral("Scelta_Stampante"), zfatture_.Scelta_Stampante,
+          [this] { StampanteFinestra(programma_, this).esegui(); });
   if (zfatture_.variante->spedizione) fa_menu_vettori(barra);
   return barra;
 }
@@ -103,9 +93,9 @@ void ZFattureFinestra::fa_menu_vettori(QMenuBar* barra) {
   const auto prende = [this](const Testo& mezzo, const std::array<Testo, 3>& vettore) {
     legame.esegui([&] { PrendiVettore(zfatture_, mezzo, vettore); });
   };
-  fa_voce(barra, "Vettori", zfatture_.spedizione.Vettori,
+  fa_voce(barra, QStringLiteral("Vettori"), zfatture_.spedizione.Vettori,
           [this, prende] { Apri_Vettori(programma_, this, prende, [this] { activateWindow(); }); });
-  fa_voce(barra, "Mostra_Esclusi", zfatture_.spedizione.Mostra_Esclusi,
+  fa_voce(barra, QStringLiteral("Mostra_Esclusi"), zfatture_.spedizione.Mostra_Esclusi,
           [this] { MostraEsclusi(programma_, zfatture_); });
 }
 
@@ -119,7 +109,7 @@ QListView* ZFattureFinestra::fa_lista(const QString& nome, Elenco& stato, const 
   connect(lista, &QListView::clicked, this, [this, &stato, tipo] {
     legame.esegui([&] { SceltaDocumento(programma_, zfatture_, tipo, stato.scelta); });
   });
-  connect(lista, &QListView::doubleClicked, this, [this, tipo] { stampa(tipo); });
+  legame.scelta(lista, [this, &stato, tipo] { DoppioClic(programma_, zfatture_, tipo, stato.scelta); });
   lista->installEventFilter(this);
   return lista;
 }
@@ -164,8 +154,8 @@ QGroupBox* ZFattureFinestra::fa_documento() {
   for (int i = 1; i <= 3; ++i) {
     const auto posto = static_cast<std::size_t>(i);
     auto* didascalia = fa_scritta(QStringLiteral("Caption(%1)").arg(i), zfatture_.Caption[posto]);
-    auto* campo =
-        fa_campo(QStringLiteral("Text1(%1)").arg(i), zfatture_.Text1[posto], zfatture_.Caption[posto]);
+    auto* campo = fa_campo(QStringLiteral("Text1(%1)").arg(i), zfatture_.Text1[posto],
+                           zfatture_.Caption[posto], caratteri_campo);
     didascalia->setBuddy(campo);
     griglia->addWidget(didascalia, i, 0);
     griglia->addWidget(campo, i, 1);
@@ -191,13 +181,10 @@ QGroupBox* ZFattureFinestra::fa_stampa() {
     griglia->addWidget(fa_casella(QStringLiteral("Check1"), zfatture_.Check1), 2, 1);
     griglia->addWidget(fa_casella(QStringLiteral("Completa"), zfatture_.Completa), 3, 0);
   }
-  auto* copie = new QComboBox;
-  copie->setFont(Carattere(punti_normali));
-  copie->setAccessibleName(QStringLiteral("Copie"));
-  legame.lega(copie, QStringLiteral("Combo2"), zfatture_.Combo2);
+  auto* copie = fa_tendina(QStringLiteral("Combo2"), QStringLiteral("Copie"), zfatture_.Combo2);
   griglia->addWidget(copie, spedizione ? 1 : 3, spedizione ? 0 : 1, 1, spedizione ? 2 : 1);
   auto* luogo = fa_scritta(QStringLiteral("Caption_Text2"), zfatture_.Caption_Text2);
-  auto* citta = fa_campo(QStringLiteral("Text2"), zfatture_.Text2, zfatture_.Caption_Text2);
+  auto* citta = fa_campo(QStringLiteral("Text2"), zfatture_.Text2, zfatture_.Caption_Text2, caratteri_campo);
   luogo->setBuddy(citta);
   griglia->addWidget(luogo, 4, 0);
   griglia->addWidget(citta, 4, 1);
@@ -225,8 +212,7 @@ QGroupBox* ZFattureFinestra::fa_bottoni_filtri() {
 
 QLineEdit* ZFattureFinestra::fa_campo_trasporto(const QString& nome, CampoTesto Campi_Spedizione::*campo,
                                                 const Scritta& didascalia) {
-  QLineEdit* fatto = fa_campo(nome, zfatture_.spedizione.*campo, didascalia);
-  fatto->setMinimumWidth(fatto->fontMetrics().averageCharWidth() * caratteri_spese);
+  QLineEdit* fatto = fa_campo(nome, zfatture_.spedizione.*campo, didascalia, caratteri_spese);
   campi_trasporto_[fatto] = campo;
   fatto->installEventFilter(this);
   return fatto;
@@ -258,8 +244,9 @@ QGroupBox* ZFattureFinestra::fa_trasporto() {
                      2);
   griglia->addWidget(fa_scritta(QStringLiteral("Caption_Text7"), spedizione.Caption_Text7), 0, 3);
   for (int i = 0; i < static_cast<int>(spedizione.Text7.size()); ++i) {
-    QLineEdit* vettore = fa_campo(QStringLiteral("Text7(%1)").arg(i),
-                                  spedizione.Text7[static_cast<std::size_t>(i)], spedizione.Caption_Text7);
+    QLineEdit* vettore =
+        fa_campo(QStringLiteral("Text7(%1)").arg(i), spedizione.Text7[static_cast<std::size_t>(i)],
+                 spedizione.Caption_Text7, caratteri_campo);
     griglia->addWidget(vettore, i + 1, 3);
   }
   griglia->setColumnStretch(1, 1);
@@ -280,51 +267,6 @@ QGroupBox* ZFattureFinestra::fa_caselle_filtri() {
   return riquadro;
 }
 
-QWidget* ZFattureFinestra::fa_casella(const QString& nome, Spunta& stato, Legame::Evento evento) {
-  const QString didascalia = In_QString(stato.didascalia);
-  auto* casella = new QCheckBox(didascalia);
-  casella->setFont(Carattere(punti_normali));
-  casella->setAccessibleName(didascalia);
-  legame.lega(casella, nome, stato, std::move(evento));
-  return casella;
-}
-
-QLabel* ZFattureFinestra::fa_scritta(const QString& nome, Scritta& stato) {
-  auto* scritta = new QLabel;
-  scritta->setFont(Carattere(punti_normali));
-  legame.lega(scritta, nome, stato);
-  return scritta;
-}
-
-QLineEdit* ZFattureFinestra::fa_campo(const QString& nome, CampoTesto& stato, const Scritta& didascalia) {
-  auto* campo = new CasellaTesto;
-  campo->setFont(Carattere(punti_normali));
-  campo->setAccessibleName(In_QString(didascalia.testo));
-  campo->setMinimumWidth(campo->fontMetrics().averageCharWidth() * 24);
-  legame.lega(campo, nome, stato);
-  return campo;
-}
-
-QPushButton* ZFattureFinestra::fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento) {
-  QPushButton* bottone = Fa_Bottone(stato);
-  legame.lega(bottone, nome, stato, std::move(evento));
-  return bottone;
-}
-
-void ZFattureFinestra::stampa(TipoFattura tipo) {
-  const Elenco& lista = tipo == TipoFattura::Fattura ? zfatture_.MList2 : zfatture_.ListNA;
-  legame.esegui([&] { DoppioClic(programma_, zfatture_, tipo, lista.scelta); });
-}
-
-void ZFattureFinestra::mostra() {
-  Finestra::mostra();
-  const QString titolo = In_QString(zfatture_.titolo);
-  if (windowTitle() != titolo) setWindowTitle(titolo);
-  if (!zfatture_.chiusa || in_chiusura_) return;
-  in_chiusura_ = true;
-  QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
-}
-
 // Only digits are keyed into the fields of the expenses.
 bool ZFattureFinestra::tasto_spese(QKeyEvent& evento) {
   const QString testo = evento.text();
@@ -341,18 +283,12 @@ bool ZFattureFinestra::evento_trasporto(CampoTesto Campi_Spedizione::*campo, QEv
   return true;
 }
 
-// In a list Enter does what a double click does, and who comes to it has its document in the fields.
+// Who comes to a list has its document in the fields.
 bool ZFattureFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
   if (const auto campo = campi_trasporto_.find(oggetto); campo != campi_trasporto_.end())
     return evento_trasporto(campo->second, *evento) || Finestra::eventFilter(oggetto, evento);
   if (oggetto != fatture_ && oggetto != note_) return Finestra::eventFilter(oggetto, evento);
   const TipoFattura tipo = oggetto == fatture_ ? TipoFattura::Fattura : TipoFattura::Nota;
-  if (evento->type() == QEvent::KeyPress) {
-    const Pressione pressione = Da_QKeyEvent(static_cast<QKeyEvent&>(*evento));
-    if (pressione.tasto != Tasto::Invio || !pressione.Nudo()) return false;
-    stampa(tipo);
-    return true;
-  }
   if (evento->type() == QEvent::FocusIn && !legame.in_evento() && !legame.in_mostra()) {
     const Elenco& lista = tipo == TipoFattura::Fattura ? zfatture_.MList2 : zfatture_.ListNA;
     if (static_cast<QFocusEvent&>(*evento).reason() == Qt::TabFocusReason ||
@@ -360,24 +296,4 @@ bool ZFattureFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
       legame.esegui([&] { SceltaDocumento(programma_, zfatture_, tipo, lista.scelta); });
   }
   return false;
-}
-
-void ZFattureFinestra::keyPressEvent(QKeyEvent* evento) {
-  const Pressione pressione = Da_QKeyEvent(*evento);
-  if (pressione.tasto == Tasto::Esc && pressione.Nudo())
-    legame.esegui([this] { ChiudiFatture(programma_, zfatture_); });
-  else
-    Finestra::keyPressEvent(evento);
-}
-
-void ZFattureFinestra::closeEvent(QCloseEvent* evento) {
-  if (!zfatture_.chiusa) {
-    in_chiusura_ = true;
-    if (!occupata()) legame.esegui([this] { ChiudiFatture(programma_, zfatture_); });
-    in_chiusura_ = zfatture_.chiusa;
-  }
-  if (zfatture_.chiusa)
-    Finestra::closeEvent(evento);
-  else
-    evento->ignore();
 }

@@ -50,13 +50,15 @@ QRect Spazio(const QWidget* padre, const QWidget* finestra) {
 
 AnagraficaFinestra::AnagraficaFinestra(Programma& programma, const Anagrafica& anagrafica, QWidget* padre,
                                        std::function<void(std::size_t)> copia)
-    : Finestra(QString::fromLatin1(anagrafica.lista.data(), static_cast<qsizetype>(anagrafica.lista.size())),
-               padre, Qt::Window),
+    : FinestraDavanti(
+          QString::fromLatin1(anagrafica.lista.data(), static_cast<qsizetype>(anagrafica.lista.size())),
+          padre, Qt::Window),
       programma_(programma),
       cerca_(new CasellaTesto),
       lista_(new ListaVoci(programma.preferenze.DimFontListe)) {
   schermo_.copia = std::move(copia);
   Apri_Anagrafica(programma_, schermo_, anagrafica);
+  intitola(schermo_.titolo);
   setWindowModality(Qt::WindowModal);
   setFont(Carattere(punti_normali));
   lega_lista();
@@ -85,9 +87,8 @@ void AnagraficaFinestra::lega_lista() {
     lista_->setUniformItemSizes(false);  // the view scrolls to the end of the longest line
   }
   lista_->installEventFilter(this);
+  legame.scelta(lista_, [this] { Copia_Voce(schermo_); });
   legame.lega(lista_, QStringLiteral("List1"), schermo_.List1, [this] { Scegli_Voce(programma_, schermo_); });
-  connect(lista_, &QListView::doubleClicked, this,
-          [this] { legame.esegui([this] { Copia_Voce(schermo_); }); });
 }
 
 QBoxLayout* AnagraficaFinestra::fa_ricerca() {
@@ -97,6 +98,7 @@ QBoxLayout* AnagraficaFinestra::fa_ricerca() {
   cerca_->setFont(Carattere(punti_grandi));
   cerca_->setAccessibleName(QStringLiteral("Cerca"));
   cerca_->installEventFilter(this);
+  legame.invio(cerca_, [this] { Cerca_Voce(programma_, schermo_, true); });
   legame.lega(cerca_, QStringLiteral("Cerca"), schermo_.Cerca, [this] { Cerca_Voce(programma_, schermo_); });
   riga->addWidget(scritta);
   riga->addWidget(cerca_, 1);
@@ -124,26 +126,12 @@ void AnagraficaFinestra::fa_ordini(QBoxLayout* ricerca, QBoxLayout* tutto) {
 
 QLayout* AnagraficaFinestra::fa_comandi() {
   auto* riga = new QHBoxLayout;
-  auto* esito = new QLabel;
-  legame.lega(esito, QStringLiteral("Esito"), schermo_.Esito);
   riga->addWidget(
       fa_bottone(QStringLiteral("AggiungiModifica"), schermo_.AggiungiModifica, [this] { apri_modulo(); }));
-  riga->addWidget(esito, 1);
+  riga->addWidget(fa_scritta(QStringLiteral("Esito"), schermo_.Esito), 1);
   riga->addWidget(fa_bottone(QStringLiteral("Copia"), schermo_.Copia, [this] { Copia_Voce(schermo_); }));
-  riga->addWidget(fa_bottone(QStringLiteral("Chiudi"), schermo_.Chiudi, [this] { close(); }));
+  riga->addWidget(fa_bottone(QStringLiteral("Chiudi"), schermo_.Chiudi, [this] { chiudi_dopo(); }));
   return riga;
-}
-
-QPushButton* AnagraficaFinestra::fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento) {
-  QPushButton* bottone = Fa_Bottone(stato);
-  legame.lega(bottone, nome, stato, std::move(evento));
-  return bottone;
-}
-
-void AnagraficaFinestra::mostra() {
-  Finestra::mostra();
-  const QString titolo = In_QString(schermo_.titolo);
-  if (windowTitle() != titolo) setWindowTitle(titolo);
 }
 
 void AnagraficaFinestra::apri() {
@@ -169,13 +157,9 @@ void AnagraficaFinestra::apri_modulo() {
   modulo_->apri(Spazio(parentWidget(), this));
 }
 
-// Enter takes the line; any character typed goes on in the search field.
+// Any character typed goes on in the search field.
 bool AnagraficaFinestra::tasto_lista(QKeyEvent& evento) {
   const Pressione pressione = Da_QKeyEvent(evento);
-  if (pressione.tasto == Tasto::Invio && pressione.Nudo()) {
-    legame.esegui([this] { Copia_Voce(schermo_); });
-    return true;
-  }
   const QString testo = evento.text();
   if (testo.isEmpty() || !testo.at(0).isPrint() || pressione.ctrl || pressione.alt) return false;
   cerca_->setFocus(Qt::OtherFocusReason);
@@ -190,23 +174,11 @@ bool AnagraficaFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
   if (oggetto == lista_) return tasto_lista(tasto) || Finestra::eventFilter(oggetto, evento);
   const Pressione pressione = Da_QKeyEvent(tasto);
   if (oggetto != cerca_ || !pressione.Nudo()) return Finestra::eventFilter(oggetto, evento);
-  if (pressione.tasto == Tasto::Invio) {
-    legame.esegui([this] { Cerca_Voce(programma_, schermo_, true); });
-    return true;
-  }
   if (pressione.tasto == Tasto::Giu || pressione.tasto == Tasto::Su) {
     lista_->setFocus(Qt::OtherFocusReason);
     return true;
   }
   return Finestra::eventFilter(oggetto, evento);
-}
-
-void AnagraficaFinestra::keyPressEvent(QKeyEvent* evento) {
-  const Pressione pressione = Da_QKeyEvent(*evento);
-  if (pressione.tasto == Tasto::Esc && pressione.Nudo())
-    close();
-  else
-    Finestra::keyPressEvent(evento);
 }
 
 void AnagraficaFinestra::closeEvent(QCloseEvent* evento) {

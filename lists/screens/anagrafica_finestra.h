@@ -10,11 +10,10 @@ class CasellaTesto;
 class QBoxLayout;
 class QLayout;
 class QListView;
-class QPushButton;
 
 // The window of a list of the firm: its lines, the search, the orders, and the command that opens the editor.
 // It stands in front of the screen that opened it until it closes.
-class AnagraficaFinestra : public Finestra {
+class AnagraficaFinestra : public FinestraDavanti {
   Q_OBJECT
 
  public:
@@ -22,7 +21,6 @@ class AnagraficaFinestra : public Finestra {
   AnagraficaFinestra(Programma& programma, const Anagrafica& anagrafica, QWidget* padre,
                      std::function<void(std::size_t)> copia);
 
-  void mostra() override;
   void apri();  // shows it, beside where its editor will stand
   SchermoAnagrafica& schermo() { return schermo_; }
 
@@ -31,14 +29,12 @@ class AnagraficaFinestra : public Finestra {
 
  protected:
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
-  void keyPressEvent(QKeyEvent* evento) override;
   void closeEvent(QCloseEvent* evento) override;
 
  private:
   QBoxLayout* fa_ricerca();
   void fa_ordini(QBoxLayout* ricerca, QBoxLayout* tutto);
   QLayout* fa_comandi();
-  QPushButton* fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento);
   void lega_lista();
   bool tasto_lista(QKeyEvent& evento);
   void apri_modulo();

@@ -15,18 +15,18 @@
 #include "platform/testo_qt.h"
 
 EsclusiFinestra::EsclusiFinestra(Programma& programma, QWidget* padre)
-    : Finestra(QStringLiteral("Esclusi"), padre, Qt::Window),
+    : FinestraDavanti(QStringLiteral("Esclusi"), padre, Qt::Window),
       programma_(programma),
       lista_(new ListaVoci(programma.preferenze.DimFontListe)),
       campo_(new CasellaTesto),
       appunti_(new QPlainTextEdit) {
   Prepara_Esclusi(programma_, schermo_);
+  intitola(schermo_.titolo);
   setFont(Carattere(punti_normali));
   lega_lista();
 
-  auto* doppio_clic = new QLabel;
+  auto* doppio_clic = fa_scritta(QStringLiteral("AiutoDoppioClic"), schermo_.AiutoDoppioClic);
   doppio_clic->setWordWrap(true);
-  legame.lega(doppio_clic, QStringLiteral("AiutoDoppioClic"), schermo_.AiutoDoppioClic);
   auto* sinistra = new QVBoxLayout;
   sinistra->addWidget(lista_, 1);
   sinistra->addWidget(doppio_clic);
@@ -50,23 +50,16 @@ EsclusiFinestra::EsclusiFinestra(Programma& programma, QWidget* padre)
 void EsclusiFinestra::lega_lista() {
   lista_->setAccessibleName(QStringLiteral("Codici esclusi"));
   lista_->installEventFilter(this);
+  legame.scelta(lista_, [this] { Reintegra_Escluso(programma_, schermo_); });
   legame.lega(lista_, QStringLiteral("List1"), schermo_.List1);
-  connect(lista_, &QListView::doubleClicked, this,
-          [this] { legame.esegui([this] { Reintegra_Escluso(programma_, schermo_); }); });
-}
-
-QGroupBox* EsclusiFinestra::fa_riquadro(const Scritta& aiuto) {
-  auto* riquadro = new QGroupBox(In_QString(aiuto.testo));
-  riquadro->setFont(Carattere(punti_normali, true));
-  return riquadro;
 }
 
 QGroupBox* EsclusiFinestra::fa_manuale() {
-  auto* riquadro = fa_riquadro(schermo_.AiutoManuale);
+  auto* riquadro = Riquadro_Titolato(In_QString(schermo_.AiutoManuale.testo));
   auto* griglia = new QGridLayout(riquadro);
   campo_->setFont(Carattere(punti_grandi));
   campo_->setAccessibleName(QStringLiteral("Codice"));
-  campo_->installEventFilter(this);
+  legame.invio(campo_, [this] { Aggiungi_Escluso(programma_, schermo_); });
   legame.lega(campo_, QStringLiteral("Text1"), schermo_.Text1);
   griglia->addWidget(campo_, 0, 0, 1, 2);
   griglia->addWidget(fa_bottone(QStringLiteral("Aggiungi"), schermo_.Aggiungi,
@@ -79,7 +72,7 @@ QGroupBox* EsclusiFinestra::fa_manuale() {
 }
 
 QGroupBox* EsclusiFinestra::fa_automatico() {
-  auto* riquadro = fa_riquadro(schermo_.AiutoAutomatico);
+  auto* riquadro = Riquadro_Titolato(In_QString(schermo_.AiutoAutomatico.testo));
   auto* griglia = new QGridLayout(riquadro);
   appunti_->setObjectName(QStringLiteral("Appunti"));
   appunti_->setAccessibleName(QStringLiteral("Testo incollato"));
@@ -100,25 +93,16 @@ QGroupBox* EsclusiFinestra::fa_automatico() {
 
 QBoxLayout* EsclusiFinestra::fa_comandi() {
   auto* riga = new QHBoxLayout;
-  auto* esito = new QLabel;
-  legame.lega(esito, QStringLiteral("Esito"), schermo_.Esito);
   riga->addWidget(fa_bottone(QStringLiteral("Salva"), schermo_.Salva,
                              [this] { Salva_Elenco_Esclusi(programma_, schermo_); }));
-  riga->addWidget(esito, 1);
-  riga->addWidget(fa_bottone(QStringLiteral("Chiudi"), schermo_.Chiudi, [this] { close(); }));
+  riga->addWidget(fa_scritta(QStringLiteral("Esito"), schermo_.Esito), 1);
+  riga->addWidget(fa_bottone(QStringLiteral("Chiudi"), schermo_.Chiudi, [this] { chiudi_dopo(); }));
   return riga;
-}
-
-QPushButton* EsclusiFinestra::fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento) {
-  QPushButton* bottone = Fa_Bottone(stato);
-  legame.lega(bottone, nome, stato, std::move(evento));
-  return bottone;
 }
 
 void EsclusiFinestra::mostra() {
   Finestra::mostra();
-  const QString titolo = In_QString(schermo_.titolo), appunti = In_QString(schermo_.Appunti.testo);
-  if (windowTitle() != titolo) setWindowTitle(titolo);
+  const QString appunti = In_QString(schermo_.Appunti.testo);
   if (appunti_->toPlainText() != appunti) appunti_->setPlainText(appunti);
 }
 
@@ -136,30 +120,14 @@ void EsclusiFinestra::escludi(const Testo& codice) {
   legame.esegui([&] { Escludi_Codice(programma_, schermo_, codice); });
 }
 
-// In the field Enter adds the code; in the list Enter does what a double click does, Delete takes the line
-// away.
+// Delete takes the line of the list away.
 bool EsclusiFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
-  if (evento->type() != QEvent::KeyPress) return Finestra::eventFilter(oggetto, evento);
+  if (evento->type() != QEvent::KeyPress) return FinestraDavanti::eventFilter(oggetto, evento);
   const Pressione pressione = Da_QKeyEvent(*static_cast<QKeyEvent*>(evento));
-  if (!pressione.Nudo()) return Finestra::eventFilter(oggetto, evento);
-  const bool invio = pressione.tasto == Tasto::Invio;
-  if (oggetto == campo_ && invio) {
-    legame.esegui([this] { Aggiungi_Escluso(programma_, schermo_); });
-    return true;
-  }
-  if (oggetto == lista_ && (invio || pressione.tasto == Tasto::Canc)) {
-    legame.esegui([&] { (invio ? Reintegra_Escluso : Elimina_Escluso)(programma_, schermo_); });
-    return true;
-  }
-  return Finestra::eventFilter(oggetto, evento);
-}
-
-void EsclusiFinestra::keyPressEvent(QKeyEvent* evento) {
-  const Pressione pressione = Da_QKeyEvent(*evento);
-  if (pressione.tasto == Tasto::Esc && pressione.Nudo())
-    close();
-  else
-    Finestra::keyPressEvent(evento);
+  if (pressione.tasto != Tasto::Canc || !pressione.Nudo())
+    return FinestraDavanti::eventFilter(oggetto, evento);
+  legame.esegui([this] { Elimina_Escluso(programma_, schermo_); });
+  return true;
 }
 
 namespace {

@@ -7,11 +7,10 @@ class QBoxLayout;
 class QGroupBox;
 class QListView;
 class QPlainTextEdit;
-class QPushButton;
 
 // The excluded codes. Stands beside the entry screen, which stays in use: its "Escludi questo codice" adds to
 // the open list.
-class EsclusiFinestra : public Finestra {
+class EsclusiFinestra : public FinestraDavanti {
   Q_OBJECT
 
  public:
@@ -23,15 +22,12 @@ class EsclusiFinestra : public Finestra {
 
  protected:
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
-  void keyPressEvent(QKeyEvent* evento) override;
 
  private:
   void lega_lista();
-  QGroupBox* fa_riquadro(const Scritta& aiuto);
   QGroupBox* fa_manuale();
   QGroupBox* fa_automatico();
   QBoxLayout* fa_comandi();
-  QPushButton* fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento);
 
   Programma& programma_;
   SchermoEsclusi schermo_;

@@ -1,7 +1,6 @@
 #include "lists/screens/mappa_finestra.h"
 
 #include <QBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
@@ -13,7 +12,7 @@
 
 MappaFinestra::MappaFinestra(const QString& nome, Programma& programma, const Testo& zona_attuale,
                              Scelta scelta, QWidget* padre)
-    : Finestra(nome, padre, Qt::Window),
+    : FinestraDavanti(nome, padre, Qt::Window),
       programma_(programma),
       zona_attuale_(zona_attuale),
       scelta_(std::move(scelta)),
@@ -35,20 +34,10 @@ MappaFinestra::MappaFinestra(const QString& nome, Programma& programma, const Te
   spiegazione_->setMinimumWidth(0);
   spiegazione_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 
-  auto* chiudi = new QPushButton(QStringLiteral("&Chiudi"));
-  chiudi->setObjectName(QStringLiteral("Chiudi"));
-  chiudi->setAccessibleName(Senza_Scorciatoia(chiudi->text()));
-  chiudi->setFont(Carattere(punti_normali));
-  chiudi->setMinimumSize(chiudi->fontMetrics().averageCharWidth() * 20, chiudi->fontMetrics().height() * 2);
-  chiudi->setAutoDefault(true);  // Enter presses it
+  auto* chiudi = Bottone_Comodo(QStringLiteral("Chiudi"), QStringLiteral("&Chiudi"));
   connect(chiudi, &QPushButton::clicked, this, &QWidget::close);
 
-  auto* stampa = new QPushButton(QStringLiteral("S&tampa"));
-  stampa->setObjectName(QStringLiteral("Stampa"));
-  stampa->setAccessibleName(Senza_Scorciatoia(stampa->text()));
-  stampa->setFont(chiudi->font());
-  stampa->setMinimumSize(chiudi->minimumSize());
-  stampa->setAutoDefault(true);
+  auto* stampa = Bottone_Comodo(QStringLiteral("Stampa"), QStringLiteral("S&tampa"));
   connect(stampa, &QPushButton::clicked, this,
           [this] { Stampa_Immagine(programma_, *tela_, windowTitle()); });
 
@@ -93,13 +82,6 @@ void MappaFinestra::scegli(int bersaglio) {
   const Testo zona = area.zona;
   close();  // first, so that the screen that asked has the keyboard again
   scelta(zona);
-}
-
-void MappaFinestra::keyPressEvent(QKeyEvent* evento) {
-  if (evento->key() == Qt::Key_Escape && evento->modifiers() == Qt::NoModifier)
-    close();
-  else
-    Finestra::keyPressEvent(evento);
 }
 
 void Apri_Mappa(const QString& nome, Programma& programma, const Testo& zona_attuale,

@@ -11,7 +11,7 @@ class TelaMappa;
 // A map of fishing zones: `MappaMondo`, `Mappa` (Mediterranean) or `Mappa27` (North-East Atlantic). Picking
 // an area closes the map and gives the text for the row; areas 37 and 27 of the world open their own map
 // instead.
-class MappaFinestra : public Finestra {
+class MappaFinestra : public FinestraDavanti {
   Q_OBJECT
 
  public:
@@ -23,9 +23,6 @@ class MappaFinestra : public Finestra {
   ~MappaFinestra() override;
   MappaFinestra(const MappaFinestra&) = delete;
   MappaFinestra& operator=(const MappaFinestra&) = delete;
-
- protected:
-  void keyPressEvent(QKeyEvent* evento) override;
 
  private:
   void scegli(int bersaglio);

@@ -21,7 +21,7 @@ constexpr double punti_campi = 13;
 }  // namespace
 
 ModuloFinestra::ModuloFinestra(Programma& programma, SchermoAnagrafica& schermo, QWidget* padre)
-    : Finestra(In_QString(schermo.anagrafica->modulo), padre, Qt::Window),
+    : FinestraModulo(In_QString(schermo.anagrafica->modulo), padre, Qt::Window),
       programma_(programma),
       schermo_(schermo),
       scorri_(new QScrollBar(Qt::Horizontal)) {
@@ -34,11 +34,10 @@ ModuloFinestra::ModuloFinestra(Programma& programma, SchermoAnagrafica& schermo,
   tutto->setSpacing(14);
   tutto->addLayout(fa_campi());
   if (!schermo_.anagrafica->note.empty()) tutto->addLayout(fa_note());
-  auto* aiuto = new QLabel;
+  auto* aiuto = fa_scritta(QStringLiteral("Aiuto"), schermo_.Aiuto);
   aiuto->setWordWrap(true);
   aiuto->setMinimumHeight(aiuto->fontMetrics().lineSpacing() * 2);  // nothing moves when a tip comes
   aiuto->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  legame.lega(aiuto, QStringLiteral("Aiuto"), schermo_.Aiuto);
   tutto->addWidget(aiuto);
   tutto->addStretch();
   tutto->addLayout(fa_scorrimento());
@@ -108,10 +107,9 @@ QLayout* ModuloFinestra::fa_scorrimento() {
   scorri_->setAccessibleName(QStringLiteral("Riga"));
   legame.lega(scorri_, QStringLiteral("Scorri"), schermo_.Scorri,
               [this] { Vai_Alla_Riga(programma_, schermo_, schermo_.Scorri.valore); });
-  auto* posto = new QLabel;
+  auto* posto = fa_scritta(QStringLiteral("Posto"), schermo_.Posto);
   posto->setMinimumWidth(posto->fontMetrics().horizontalAdvance(QStringLiteral("riga 00000 di 00000")));
   posto->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  legame.lega(posto, QStringLiteral("Posto"), schermo_.Posto);
   riga->addWidget(scorri_, 1);
   riga->addWidget(posto);
   return riga;
@@ -119,8 +117,6 @@ QLayout* ModuloFinestra::fa_scorrimento() {
 
 QLayout* ModuloFinestra::fa_comandi() {
   auto* riga = new QHBoxLayout;
-  auto* esito = new QLabel;
-  legame.lega(esito, QStringLiteral("Esito"), schermo_.EsitoModulo);
   struct Comando {
     const char* nome;
     Bottone& stato;
@@ -134,10 +130,11 @@ QLayout* ModuloFinestra::fa_comandi() {
                                 Pulisci_Campi(schermo_);
                                 campi_.front()->setFocus(Qt::OtherFocusReason);
                               }},
-                             {"Chiudi", schermo_.ChiudiModulo, [this] { close(); }}};
+                             {"Chiudi", schermo_.ChiudiModulo, [this] { chiudi_dopo(); }}};
   for (const auto& [nome, stato, evento] : comandi) {
     QPushButton* bottone = fa_bottone(QString::fromLatin1(nome), stato, evento);
-    if (&stato == &schermo_.ChiudiModulo) riga->addWidget(esito, 1);
+    if (&stato == &schermo_.ChiudiModulo)
+      riga->addWidget(fa_scritta(QStringLiteral("Esito"), schermo_.EsitoModulo), 1);
     riga->addWidget(bottone);
   }
   return riga;
@@ -156,12 +153,6 @@ QLayout* ModuloFinestra::fa_altri_comandi() {
     }));
   riga->addStretch();
   return riga;
-}
-
-QPushButton* ModuloFinestra::fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento) {
-  QPushButton* bottone = Fa_Bottone(stato);
-  legame.lega(bottone, nome, stato, std::move(evento));
-  return bottone;
 }
 
 void ModuloFinestra::mostra() {
@@ -200,23 +191,9 @@ bool ModuloFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
   return Finestra::eventFilter(oggetto, evento);
 }
 
-void ModuloFinestra::keyPressEvent(QKeyEvent* evento) {
-  const Pressione pressione = Da_QKeyEvent(*evento);
-  if (!pressione.Nudo()) return Finestra::keyPressEvent(evento);
-  switch (pressione.tasto) {
-    case Tasto::Invio:
-      focusNextChild();
-      return;
-    case Tasto::Esc:
-      close();
-      return;
-    case Tasto::PagSu:
-      scorri_->setValue(scorri_->value() - 1);
-      return;
-    case Tasto::PagGiu:
-      scorri_->setValue(scorri_->value() + 1);
-      return;
-    default:
-      Finestra::keyPressEvent(evento);
-  }
+bool ModuloFinestra::tasto(const Pressione& pressione) {
+  const bool avanti = pressione.tasto == Tasto::PagGiu, indietro = pressione.tasto == Tasto::PagSu;
+  if (!pressione.Nudo() || (!avanti && !indietro)) return FinestraModulo::tasto(pressione);
+  scorri_->setValue(scorri_->value() + (avanti ? 1 : -1));
+  return true;
 }

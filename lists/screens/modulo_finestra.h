@@ -6,12 +6,11 @@
 class CasellaTesto;
 class QGridLayout;
 class QLayout;
-class QPushButton;
 class QScrollBar;
 
 // The editor of a list of the firm: one field a column, a scroller over the rows. Stands in front of its list
 // until it closes; the list follows its row.
-class ModuloFinestra : public Finestra {
+class ModuloFinestra : public FinestraModulo {
   Q_OBJECT
 
  public:
@@ -26,7 +25,7 @@ class ModuloFinestra : public Finestra {
 
  protected:
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
-  void keyPressEvent(QKeyEvent* evento) override;
+  bool tasto(const Pressione& pressione) override;
 
  private:
   QLayout* fa_campi();
@@ -37,7 +36,6 @@ class ModuloFinestra : public Finestra {
   void fa_campo(QGridLayout* griglia, std::size_t i);
   void campo_cambiato(std::size_t i);
   bool evento_campo(std::size_t i, QEvent& evento);
-  QPushButton* fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento);
 
   Programma& programma_;
   SchermoAnagrafica& schermo_;

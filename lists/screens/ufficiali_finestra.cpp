@@ -1,39 +1,35 @@
 #include "lists/screens/ufficiali_finestra.h"
 
 #include <QBoxLayout>
-#include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
 
 #include "lists/screens/parti.h"
 #include "platform/aspetto.h"
-#include "platform/tasti_qt.h"
-#include "platform/testo_qt.h"
 
 UfficialiFinestra::UfficialiFinestra(Programma& programma, SchermoAnagrafica& specie, Finestra* modulo)
-    : Finestra(QStringLiteral("ModDescrLista"), modulo, Qt::Window),
+    : FinestraDavanti(QStringLiteral("ModDescrLista"), modulo, Qt::Window),
       programma_(programma),
       specie_(specie),
       modulo_(modulo),
       lista_(new ListaVoci(programma.preferenze.DimFontListe)) {
   Apri_Ufficiali(programma_, schermo_);
   setWindowModality(Qt::WindowModal);
-  setWindowTitle(In_QString(schermo_.titolo));
+  intitola(schermo_.titolo);
   setFont(Carattere(punti_normali));
 
   lista_->setAccessibleName(QStringLiteral("Descrizioni ufficiali"));
-  lista_->installEventFilter(this);
+  legame.scelta(lista_, [this] { copia(); });
   legame.lega(lista_, QStringLiteral("List1"), schermo_.List1);
-  connect(lista_, &QListView::doubleClicked, this, [this] { copia(); });
 
   auto* riga = new QHBoxLayout;
-  fa_bottone(riga, QStringLiteral("Cerca_Alfa"), schermo_.Cerca_Alfa,
-             [this] { Cerca_Ufficiale(programma_, schermo_, true); });
-  fa_bottone(riga, QStringLiteral("Cerca_Latino"), schermo_.Cerca_Latino,
-             [this] { Cerca_Ufficiale(programma_, schermo_, false); });
+  riga->addWidget(fa_bottone(QStringLiteral("Cerca_Alfa"), schermo_.Cerca_Alfa,
+                             [this] { Cerca_Ufficiale(programma_, schermo_, true); }));
+  riga->addWidget(fa_bottone(QStringLiteral("Cerca_Latino"), schermo_.Cerca_Latino,
+                             [this] { Cerca_Ufficiale(programma_, schermo_, false); }));
   riga->addStretch(1);
-  fa_bottone(riga, QStringLiteral("Copia"), schermo_.Copia, [this] { copia(); });
-  fa_bottone(riga, QStringLiteral("Chiudi"), schermo_.Chiudi, [this] { close(); });
+  riga->addWidget(fa_bottone(QStringLiteral("Copia"), schermo_.Copia, [this] { copia(); }));
+  riga->addWidget(fa_bottone(QStringLiteral("Chiudi"), schermo_.Chiudi, [this] { chiudi_dopo(); }));
 
   auto* tutto = new QVBoxLayout(this);
   tutto->setContentsMargins(14, 14, 14, 14);
@@ -41,13 +37,6 @@ UfficialiFinestra::UfficialiFinestra(Programma& programma, SchermoAnagrafica& sp
   tutto->addWidget(lista_, 1);
   tutto->addLayout(riga);
   mostra();
-}
-
-void UfficialiFinestra::fa_bottone(QLayout* riga, const QString& nome, Bottone& stato,
-                                   Legame::Evento evento) {
-  auto* bottone = Fa_Bottone(stato);
-  legame.lega(bottone, nome, stato, std::move(evento));
-  riga->addWidget(bottone);
 }
 
 void UfficialiFinestra::apri() {
@@ -61,28 +50,7 @@ void UfficialiFinestra::apri() {
 }
 
 void UfficialiFinestra::copia() {
-  bool copiata = false;
-  legame.esegui([&] { copiata = Copia_Ufficiale(programma_, schermo_, specie_); });
-  if (!copiata) return;
+  if (!Copia_Ufficiale(programma_, schermo_, specie_)) return;
   modulo_->mostra();
-  close();
-}
-
-bool UfficialiFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
-  if (oggetto == lista_ && evento->type() == QEvent::KeyPress) {
-    const Pressione pressione = Da_QKeyEvent(*static_cast<QKeyEvent*>(evento));
-    if (pressione.tasto == Tasto::Invio && pressione.Nudo()) {
-      copia();
-      return true;
-    }
-  }
-  return Finestra::eventFilter(oggetto, evento);
-}
-
-void UfficialiFinestra::keyPressEvent(QKeyEvent* evento) {
-  const Pressione pressione = Da_QKeyEvent(*evento);
-  if (pressione.tasto == Tasto::Esc && pressione.Nudo())
-    close();
-  else
-    Finestra::keyPressEvent(evento);
+  chiudi_dopo();
 }

@@ -7,7 +7,7 @@ class ListaVoci;
 
 // The official list of species, `ModDescrLista`. A double click or Enter copies the line into the fields of
 // the species editor that stands behind it, and closes the window.
-class UfficialiFinestra : public Finestra {
+class UfficialiFinestra : public FinestraDavanti {
   Q_OBJECT
 
  public:
@@ -15,12 +15,7 @@ class UfficialiFinestra : public Finestra {
   UfficialiFinestra(Programma& programma, SchermoAnagrafica& specie, Finestra* modulo);
   void apri();
 
- protected:
-  bool eventFilter(QObject* oggetto, QEvent* evento) override;
-  void keyPressEvent(QKeyEvent* evento) override;
-
  private:
-  void fa_bottone(QLayout* riga, const QString& nome, Bottone& stato, Legame::Evento evento);
   void copia();
 
   Programma& programma_;

@@ -32,13 +32,6 @@ Immagine Da_QImage(const QImage& immagine) {
   return esito;
 }
 
-QLabel* Fa_Scritta(Legame& legame, const QString& nome, Scritta& stato) {
-  auto* scritta = new QLabel;
-  scritta->setTextFormat(Qt::PlainText);
-  legame.lega(scritta, nome, stato);
-  return scritta;
-}
-
 }  // namespace
 
 FoglioAnteprima::FoglioAnteprima(const FrmStampaFCPB& schermo, const QImage& immagine, QWidget* padre)
@@ -78,11 +71,12 @@ void FoglioAnteprima::paintEvent(QPaintEvent* /*evento*/) {
 
 StampaImmagineFinestra::StampaImmagineFinestra(Programma& programma, FrmStampaFCPB schermo, QImage immagine,
                                                QWidget* padre)
-    : Finestra(QStringLiteral("frmStampaFCPB"), padre, Qt::Window),
+    : FinestraDavanti(QStringLiteral("frmStampaFCPB"), padre, Qt::Window),
       programma_(programma),
       schermo_(std::move(schermo)),
       immagine_(std::move(immagine)) {
-  setWindowTitle(In_QString(schermo_.titolo));
+  intitola(schermo_.titolo);
+  si_chiude(schermo_.chiusa, [this] { LasciaStampante(programma_, schermo_); });
   setFont(Carattere(punti_normali));
   anteprima_ = new FoglioAnteprima(schermo_, immagine_);
   anteprima_->setObjectName(QStringLiteral("picPreview"));
@@ -109,15 +103,12 @@ StampaImmagineFinestra::StampaImmagineFinestra(Programma& programma, FrmStampaFC
   scala_->setFocus(Qt::OtherFocusReason);
 }
 
-QLineEdit* StampaImmagineFinestra::fa_campo(const QString& nome, CampoTesto& stato, Scritta& didascalia,
-                                            QBoxLayout* colonna) {
-  auto* titolo = new QLabel;
-  legame.lega(titolo, QStringLiteral("Caption_") + nome.mid(3), didascalia);
-  auto* campo = new CasellaTesto;
+QLineEdit* StampaImmagineFinestra::fa_numero(const QString& nome, CampoTesto& stato, Scritta& didascalia,
+                                             QBoxLayout* colonna) {
+  auto* titolo = fa_scritta(QStringLiteral("Caption_") + nome.mid(3), didascalia);
+  auto* campo = fa_campo(nome, stato, didascalia);
   campo->setAlignment(Qt::AlignRight);
   campo->setFixedWidth(campo->fontMetrics().averageCharWidth() * 10);
-  campo->setAccessibleName(Senza_Scorciatoia(In_QString(didascalia.testo)));
-  legame.lega(campo, nome, stato);
   titolo->setBuddy(campo);
   auto* riga = new QHBoxLayout;
   riga->addWidget(titolo, 1);
@@ -126,23 +117,14 @@ QLineEdit* StampaImmagineFinestra::fa_campo(const QString& nome, CampoTesto& sta
   return campo;
 }
 
-QPushButton* StampaImmagineFinestra::fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento) {
-  auto* bottone = new QPushButton;
-  bottone->setAutoDefault(true);
-  bottone->setMinimumHeight(bottone->fontMetrics().height() * 2);
-  legame.lega(bottone, nome, stato, std::move(evento));
-  return bottone;
-}
-
 QBoxLayout* StampaImmagineFinestra::fa_scelte() {
   auto* colonna = new QVBoxLayout;
   colonna->setSpacing(10);
-  auto* titolo = Fa_Scritta(legame, QStringLiteral("Caption_Stampante"), schermo_.Caption_Stampante);
-  auto* stampanti = new QComboBox;
-  stampanti->setAccessibleName(In_QString(schermo_.Caption_Stampante.testo));
+  auto* titolo = fa_scritta(QStringLiteral("Caption_Stampante"), schermo_.Caption_Stampante);
+  auto* stampanti =
+      fa_tendina(QStringLiteral("cboPrinterNames"), In_QString(schermo_.Caption_Stampante.testo),
+                 schermo_.cboPrinterNames, [this] { CambiaStampante(programma_, schermo_); });
   stampanti->setMinimumContentsLength(24);
-  legame.lega(stampanti, QStringLiteral("cboPrinterNames"), schermo_.cboPrinterNames,
-              [this] { CambiaStampante(programma_, schermo_); });
   titolo->setBuddy(stampanti);
   colonna->addWidget(titolo);
   colonna->addWidget(stampanti);
@@ -152,18 +134,17 @@ QBoxLayout* StampaImmagineFinestra::fa_scelte() {
     finestra->esegui();
     RiprendiDaProprieta(programma_, schermo_);
   }));
-  colonna->addWidget(Fa_Scritta(legame, QStringLiteral("fraFoglio"), schermo_.fraFoglio));
-  colonna->addWidget(Fa_Scritta(legame, QStringLiteral("Altezza"), schermo_.Altezza));
-  colonna->addWidget(Fa_Scritta(legame, QStringLiteral("Larghezza"), schermo_.Larghezza));
+  colonna->addWidget(fa_scritta(QStringLiteral("fraFoglio"), schermo_.fraFoglio));
+  colonna->addWidget(fa_scritta(QStringLiteral("Altezza"), schermo_.Altezza));
+  colonna->addWidget(fa_scritta(QStringLiteral("Larghezza"), schermo_.Larghezza));
   colonna->addSpacing(10);
-  scala_ = fa_campo(QStringLiteral("txtScala"), schermo_.txtScala, schermo_.Caption_Scala, colonna);
-  scala_->installEventFilter(this);
+  scala_ = fa_numero(QStringLiteral("txtScala"), schermo_.txtScala, schermo_.Caption_Scala, colonna);
+  legame.invio(scala_, [this] { ConfermaScala(programma_, schermo_); });
   colonna->addWidget(fa_bottone(QStringLiteral("cmdScalaOK"), schermo_.cmdScalaOK,
                                 [this] { ConfermaScala(programma_, schermo_); }));
-  fa_campo(QStringLiteral("txtNCopies"), schermo_.txtNCopies, schermo_.Caption_NCopies, colonna);
+  fa_numero(QStringLiteral("txtNCopies"), schermo_.txtNCopies, schermo_.Caption_NCopies, colonna);
   for (Scritta* avviso : {&schermo_.lblFuoriFoglio, &schermo_.lblStampaInCorso}) {
-    auto* scritta = Fa_Scritta(legame,
-                               avviso == &schermo_.lblFuoriFoglio ? QStringLiteral("lblFuoriFoglio")
+    auto* scritta = fa_scritta(avviso == &schermo_.lblFuoriFoglio ? QStringLiteral("lblFuoriFoglio")
                                                                   : QStringLiteral("lblStampaInCorso"),
                                *avviso);
     scritta->setFont(Carattere(punti_normali, true));
@@ -187,7 +168,6 @@ void StampaImmagineFinestra::mostra() {
   Finestra::mostra();
   anteprima_->update();
   ingrandita_->update();
-  if (schermo_.chiusa) QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
 }
 
 void StampaImmagineFinestra::resizeEvent(QResizeEvent* evento) {
@@ -195,27 +175,11 @@ void StampaImmagineFinestra::resizeEvent(QResizeEvent* evento) {
   if (ingrandita_) ingrandita_->setGeometry(rect());
 }
 
-// Enter in the scale takes it, as its button does.
-bool StampaImmagineFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
-  if (oggetto != scala_ || evento->type() != QEvent::KeyPress) return Finestra::eventFilter(oggetto, evento);
-  const Pressione pressione = Da_QKeyEvent(*static_cast<QKeyEvent*>(evento));
-  if (pressione.tasto != Tasto::Invio || !pressione.Nudo()) return Finestra::eventFilter(oggetto, evento);
-  legame.esegui([this] { ConfermaScala(programma_, schermo_); });
+bool StampaImmagineFinestra::tasto(const Pressione& pressione) {
+  const bool riduce = pressione.tasto == Tasto::Esc && pressione.Nudo() && ingrandita_->isVisible();
+  if (!riduce) return FinestraDavanti::tasto(pressione);
+  ingrandisci(false);
   return true;
-}
-
-void StampaImmagineFinestra::closeEvent(QCloseEvent* evento) {
-  LasciaStampante(programma_, schermo_);
-  Finestra::closeEvent(evento);
-}
-
-void StampaImmagineFinestra::keyPressEvent(QKeyEvent* evento) {
-  const Pressione pressione = Da_QKeyEvent(*evento);
-  if (pressione.tasto != Tasto::Esc || !pressione.Nudo()) return Finestra::keyPressEvent(evento);
-  if (ingrandita_->isVisible())
-    ingrandisci(false);
-  else
-    close();
 }
 
 void Stampa_Immagine(Programma& programma, QWidget& cosa, const QString& nome) {

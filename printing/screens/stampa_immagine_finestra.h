@@ -6,9 +6,7 @@
 #include "printing/stampa_immagine.h"
 
 class QBoxLayout;
-class QComboBox;
 class QLineEdit;
-class QPushButton;
 
 // The sheet with the picture where it will fall; a click is told.
 class FoglioAnteprima : public QFrame {
@@ -30,7 +28,7 @@ class FoglioAnteprima : public QFrame {
 };
 
 // The screen `frmStampaFCPB`.
-class StampaImmagineFinestra : public Finestra {
+class StampaImmagineFinestra : public FinestraDavanti {
   Q_OBJECT
 
  public:
@@ -40,15 +38,12 @@ class StampaImmagineFinestra : public Finestra {
   void mostra() override;
 
  protected:
-  void closeEvent(QCloseEvent* evento) override;
-  void keyPressEvent(QKeyEvent* evento) override;
+  bool tasto(const Pressione& pressione) override;
   void resizeEvent(QResizeEvent* evento) override;
-  bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
  private:
   QBoxLayout* fa_scelte();
-  QLineEdit* fa_campo(const QString& nome, CampoTesto& stato, Scritta& didascalia, QBoxLayout* colonna);
-  QPushButton* fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento);
+  QLineEdit* fa_numero(const QString& nome, CampoTesto& stato, Scritta& didascalia, QBoxLayout* colonna);
   void ingrandisci(bool si);
 
   Programma& programma_;

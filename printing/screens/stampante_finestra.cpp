@@ -3,53 +3,44 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
 #include <QRadioButton>
 
 #include "platform/aspetto.h"
-#include "platform/tasti_qt.h"
-#include "platform/testo_qt.h"
 
 StampanteFinestra::StampanteFinestra(Programma& programma, QWidget* padre)
-    : Finestra(QStringLiteral("Stampante"), padre, Qt::Window), programma_(programma), lista_(new QListView) {
+    : FinestraDavanti(QStringLiteral("Stampante"), padre, Qt::Window), programma_(programma) {
   Apri_Stampante(programma_, schermo_);
-  setWindowTitle(In_QString(schermo_.titolo));
+  intitola(schermo_.titolo);
   setFont(Carattere(punti_normali));
 
-  auto* corrente = new QLabel;
+  auto* corrente = fa_scritta(QStringLiteral("Corrente"), schermo_.Corrente);
   corrente->setFont(Carattere(punti_grandi, true));
-  corrente->setTextFormat(Qt::PlainText);
   corrente->setWordWrap(true);
-  legame.lega(corrente, QStringLiteral("Corrente"), schermo_.Corrente);
 
-  lista_->setFont(Carattere(punti_grandi));
-  lista_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  lista_->setAccessibleName(QStringLiteral("Stampanti"));
-  lista_->setMinimumHeight(lista_->fontMetrics().lineSpacing() * 6);
-  lista_->installEventFilter(this);
-  legame.lega(lista_, QStringLiteral("Stampanti"), schermo_.Stampanti);
-  connect(lista_, &QListView::doubleClicked, this, [this] { legame.esegui([this] { applica(); }); });
+  auto* lista = new QListView;
+  lista->setFont(Carattere(punti_grandi));
+  lista->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  lista->setAccessibleName(QStringLiteral("Stampanti"));
+  lista->setMinimumHeight(lista->fontMetrics().lineSpacing() * 6);
+  legame.scelta(lista, [this] { Applica_Stampante(programma_, schermo_); });
+  legame.lega(lista, QStringLiteral("Stampanti"), schermo_.Stampanti);
 
-  auto* apri = new QCheckBox;
-  legame.lega(apri, QStringLiteral("ApriPDF"), schermo_.ApriPDF);
-  auto* stampe = new QLabel;
-  stampe->setTextFormat(Qt::PlainText);
+  auto* stampe = fa_scritta(QStringLiteral("Stampe"), schermo_.Stampe);
   stampe->setWordWrap(true);
   stampe->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  legame.lega(stampe, QStringLiteral("Stampe"), schermo_.Stampe);
 
   auto* destra = new QVBoxLayout;
   destra->setSpacing(12);
   destra->addWidget(fa_orientamento());
-  destra->addWidget(apri);
+  destra->addWidget(fa_casella(QStringLiteral("ApriPDF"), schermo_.ApriPDF));
   destra->addWidget(stampe);
   destra->addStretch();
   auto* affiancate = new QHBoxLayout;
   affiancate->setSpacing(14);
-  affiancate->addWidget(lista_, 1);
+  affiancate->addWidget(lista, 1);
   affiancate->addLayout(destra, 1);
 
   auto* tutto = new QVBoxLayout(this);
@@ -59,7 +50,7 @@ StampanteFinestra::StampanteFinestra(Programma& programma, QWidget* padre)
   tutto->addLayout(affiancate, 1);
   tutto->addLayout(fa_comandi());
   mostra();
-  lista_->setFocus(Qt::OtherFocusReason);
+  lista->setFocus(Qt::OtherFocusReason);
 }
 
 QGroupBox* StampanteFinestra::fa_orientamento() {
@@ -83,39 +74,13 @@ QGroupBox* StampanteFinestra::fa_orientamento() {
   return riquadro;
 }
 
-QPushButton* StampanteFinestra::fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento) {
-  auto* bottone = new QPushButton;
-  bottone->setFont(Carattere(punti_normali));
-  bottone->setAutoDefault(true);
-  bottone->setMinimumHeight(bottone->fontMetrics().height() * 2);
-  legame.lega(bottone, nome, stato, std::move(evento));
-  return bottone;
-}
-
 QBoxLayout* StampanteFinestra::fa_comandi() {
   auto* riga = new QHBoxLayout;
   riga->addWidget(fa_bottone(QStringLiteral("ApriUltimo"), schermo_.ApriUltimo,
                              [this] { Mostra_Ultimo_PDF(programma_, schermo_); }));
   riga->addStretch();
-  riga->addWidget(fa_bottone(QStringLiteral("Applica"), schermo_.Applica, [this] { applica(); }));
-  riga->addWidget(fa_bottone(QStringLiteral("Chiudi"), schermo_.Chiudi, [this] { close(); }));
+  riga->addWidget(fa_bottone(QStringLiteral("Applica"), schermo_.Applica,
+                             [this] { Applica_Stampante(programma_, schermo_); }));
+  riga->addWidget(fa_bottone(QStringLiteral("Chiudi"), schermo_.Chiudi, [this] { chiudi_dopo(); }));
   return riga;
-}
-
-void StampanteFinestra::applica() { Applica_Stampante(programma_, schermo_); }
-
-bool StampanteFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
-  if (oggetto != lista_ || evento->type() != QEvent::KeyPress) return Finestra::eventFilter(oggetto, evento);
-  const Pressione pressione = Da_QKeyEvent(*static_cast<QKeyEvent*>(evento));
-  if (pressione.tasto != Tasto::Invio || !pressione.Nudo()) return Finestra::eventFilter(oggetto, evento);
-  legame.esegui([this] { applica(); });
-  return true;
-}
-
-void StampanteFinestra::keyPressEvent(QKeyEvent* evento) {
-  const Pressione pressione = Da_QKeyEvent(*evento);
-  if (pressione.tasto == Tasto::Esc && pressione.Nudo())
-    close();
-  else
-    Finestra::keyPressEvent(evento);
 }

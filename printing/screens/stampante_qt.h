@@ -7,11 +7,12 @@
 
 #include <QMarginsF>
 #include <QPageSize>
-#include <QRawFont>
 #include <QStringList>
 
 #include "printing/dispositivo.h"
 #include "printing/nomi_stampe.h"
+#include "printing/screens/fonte_stampa.h"
+#include "printing/screens/lavoro.h"
 
 class QPrinter;
 
@@ -48,13 +49,13 @@ class Stampante_Qt : public Printer {
   bool Inizia_Documento() override;
   void Inizia_Pagina(int pagina, int orientamento) override;
   bool Finisci_Documento() override;
+  bool Abbandona_Documento() override;
   void Disegna(double x, double y, const Carattere_Stampa& carattere, Vista testo) override;
   void Disegna(const Segno& segno) override;
   void Disegna(const Ovale& ovale) override;
   void Disegna(const Figura& figura) override;
 
  private:
-  struct Lavoro;
   struct Scelta {  // the printer in use
     Testo nome;
     int orientamento = Verticale;
@@ -63,22 +64,24 @@ class Stampante_Qt : public Printer {
     QPageSize foglio;
     QMarginsF bordi;
   };
-  using Chiave = std::tuple<Testo, bool, bool>;  // font name, bold, italic
+  using Chiave = std::tuple<Testo, bool, bool>;  // font name or family, bold, italic
 
   const Scelta& In_Uso() const;
   std::optional<Scelta> Trova(const QString& nome) const;
-  QMarginsF Bordi(int orientamento) const;  // as the sheet lies
-  const QRawFont& Carattere(const Carattere_Stampa& carattere);
+  Fonte_Stampa& Fonte(const Carattere_Stampa& carattere);
+  Fonte_Stampa& Fonte_Di(const Testo& famiglia, const Carattere_Stampa& stile);
   std::unique_ptr<Lavoro> Nuovo_Lavoro(const QString& titolo);
-  bool Consegna_PDF();
+  std::unique_ptr<Lavoro> Nuovo_Pdf(const QString& titolo);
+  bool Consegna_PDF(Vista contenuto);
   void Perso(const Documento& documento_perso, const Testo& perche);
 
   Percorso cartella_stampe_;
   // Asked of the system at the first need: a print server may let one wait.
   mutable std::optional<Scelta> scelta_;
   std::unique_ptr<Lavoro> lavoro_;
-  std::map<Chiave, QRawFont> caratteri_;
-  std::map<Chiave, Metrica> misure_;
+  Documento in_lavoro_;
+  std::map<Chiave, Fonte_Stampa> fonti_;     // by family
+  std::map<Chiave, Fonte_Stampa*> chieste_;  // by name
   Nomi_Stampe nomi_;
   Percorso ultimo_pdf_;
   std::optional<Documento> avvisato_;  // the lost document that was told

@@ -4,8 +4,6 @@
 
 #include "core/programma.h"
 
-class QWidget;
-
 // The running program: start-up, then the main window with the start screen, then the day's screens. main.cpp
 // and the working-day runner make one and give it the machine.
 class Applicazione {

@@ -1,11 +1,11 @@
 #include "start/screens/b_inizio.h"
 
+#include <algorithm>
+
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QDropEvent>
-#include <QFormLayout>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
 #include <QMimeData>
@@ -13,7 +13,6 @@
 #include <QUrl>
 
 #include "platform/aspetto.h"
-#include "platform/tasti_qt.h"
 #include "platform/testo_qt.h"
 #include "start/copia_giorno.h"
 #include "start/screens/quadro.h"
@@ -43,12 +42,13 @@ B_InizioFinestra::B_InizioFinestra(Programma& programma, QWidget* padre)
     : Finestra(QStringLiteral("B_Inizio"), padre), programma_(programma), quadro_(new Quadro) {
   setFont(Carattere(punti_normali));
   Carica_Inizio(programma_, inizio_);
+  intitola(inizio_.titolo);
   inizio_.Command11.suggerimento = "Giorno dopo";
   inizio_.Command12.suggerimento = "Giorno prima";
 
   auto* colonna = new QVBoxLayout;
   colonna->setSpacing(14);
-  auto* prompt = scritta(QStringLiteral("Prompt"), inizio_.Prompt);
+  auto* prompt = fa_scritta(QStringLiteral("Prompt"), inizio_.Prompt);
   prompt->setFont(Carattere(punti_grandi));
   colonna->addWidget(prompt);
   colonna->addWidget(fa_data());
@@ -74,13 +74,6 @@ B_InizioFinestra::B_InizioFinestra(Programma& programma, QWidget* padre)
   connect(file1, &QListView::doubleClicked, this,
           [this] { legame.esegui([this] { MostraFile1(programma_, inizio_); }); });
   mostra();
-}
-
-QLabel* B_InizioFinestra::scritta(const QString& nome, Scritta& stato) {
-  auto* etichetta = new QLabel;
-  etichetta->setTextFormat(Qt::PlainText);
-  legame.lega(etichetta, nome, stato);
-  return etichetta;
 }
 
 QWidget* B_InizioFinestra::fa_data() {
@@ -118,7 +111,7 @@ QWidget* B_InizioFinestra::fa_data() {
     passi->addWidget(passo);
   }
 
-  auto* settimana = scritta(QStringLiteral("Label13"), inizio_.Label13);
+  auto* settimana = fa_scritta(QStringLiteral("Label13"), inizio_.Label13);
   settimana->setFont(Carattere(punti_grandi, true));
   settimana->setMinimumWidth(settimana->fontMetrics().horizontalAdvance(QStringLiteral("(Mercoledì) ")));
 
@@ -164,9 +157,7 @@ QWidget* B_InizioFinestra::fa_recenti() {
   auto* riquadro = Riquadro_Titolato(QStringLiteral("Ultimi giorni   F8"));
   auto* colonna = new QVBoxLayout(riquadro);
   recenti_ = new QListView;
-  QFont carattere = Carattere_Fisso(punti_normali);
-  carattere.setBold(false);  // not the title's
-  recenti_->setFont(carattere);
+  recenti_->setFont(Carattere_Fisso(punti_normali));
   recenti_->setAccessibleName(QStringLiteral("Ultimi giorni"));
   recenti_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   recenti_->setUniformItemSizes(true);
@@ -249,14 +240,23 @@ void B_InizioFinestra::copia(bool dalla_chiavetta) {
   Aggiorna_Recenti(programma_, inizio_);
 }
 
-void B_InizioFinestra::dragEnterEvent(QDragEnterEvent* evento) {
-  if (!occupata() && inizio_.attiva && evento->mimeData()->hasUrls()) evento->acceptProposedAction();
+// Always as a copy, whatever is proposed: who thinks that it was moved may delete it where it came from.
+void B_InizioFinestra::prendi(QDropEvent* evento) {
+  evento->setDropAction(Qt::CopyAction);
+  evento->accept();
 }
+
+void B_InizioFinestra::dragEnterEvent(QDragEnterEvent* evento) {
+  const auto indirizzi = evento->mimeData()->urls();
+  const bool file = std::ranges::any_of(indirizzi, [](const QUrl& uno) { return uno.isLocalFile(); });
+  if (!occupata() && inizio_.attiva && file) prendi(evento);
+}
+
+void B_InizioFinestra::dragMoveEvent(QDragMoveEvent* evento) { prendi(evento); }
 
 // The questions come when the desktop has its mouse back.
 void B_InizioFinestra::dropEvent(QDropEvent* evento) {
-  evento->setDropAction(Qt::CopyAction);
-  evento->accept();
+  prendi(evento);
   QMetaObject::invokeMethod(
       this, [this, file = evento->mimeData()->urls()] { copia_file(file); }, Qt::QueuedConnection);
 }
@@ -266,7 +266,7 @@ void B_InizioFinestra::copia_file(const QList<QUrl>& file) {
   window()->activateWindow();
   legame.esegui([&] {
     for (const QUrl& uno : file)
-      if (uno.isLocalFile()) CopiaFileGiorno(programma_, inizio_, Percorso(uno.toLocalFile().toStdString()));
+      if (uno.isLocalFile() && !CopiaFileGiorno(programma_, inizio_, uno.toLocalFile().toStdString())) return;
   });
 }
 
@@ -275,22 +275,20 @@ QWidget* B_InizioFinestra::fa_ditta() {
   auto* colonna = new QVBoxLayout(riquadro);
   colonna->setContentsMargins(4, 6, 4, 0);
   colonna->setSpacing(4);
-  auto* ditta = scritta(QStringLiteral("Ditta"), inizio_.Ditta);
-  auto* ragione = scritta(QStringLiteral("RagioneSociale"), inizio_.RagioneSociale);
+  auto* ditta = fa_scritta(QStringLiteral("Ditta"), inizio_.Ditta);
+  auto* ragione = fa_scritta(QStringLiteral("RagioneSociale"), inizio_.RagioneSociale);
   ditta->setFont(Carattere(punti_normali));
   ragione->setFont(Carattere(punti_titolo, true));
   colonna->addWidget(ditta);
   colonna->addWidget(ragione);
-  colonna->addWidget(scritta(QStringLiteral("Moduli"), inizio_.Moduli));
-  colonna->addWidget(scritta(QStringLiteral("Nota"), inizio_.Nota));
-  colonna->addWidget(scritta(QStringLiteral("Stato"), inizio_.Stato));
+  colonna->addWidget(fa_scritta(QStringLiteral("Moduli"), inizio_.Moduli));
+  colonna->addWidget(fa_scritta(QStringLiteral("Nota"), inizio_.Nota));
+  colonna->addWidget(fa_scritta(QStringLiteral("Stato"), inizio_.Stato));
   return riquadro;
 }
 
 void B_InizioFinestra::mostra() {
-  legame.mostra();
-  const QString titolo = In_QString(inizio_.titolo);
-  if (windowTitle() != titolo) setWindowTitle(titolo);
+  Finestra::mostra();
   Mostra_Sfondo(this, inizio_.sfondo);
   quadro_->scegli(Pesce_Scelto(programma_.preferenze));
 }
@@ -306,10 +304,9 @@ void B_InizioFinestra::continua() {
   if (inizio_.attiva && Apri_Giorno(programma_, inizio_)) emit giorno_aperto();
 }
 
-void B_InizioFinestra::keyPressEvent(QKeyEvent* evento) {
-  const Pressione pressione = Da_QKeyEvent(*evento);
-  bool usata = true, vai_ai_recenti = false;
-  legame.esegui([&] {
+bool B_InizioFinestra::tasto(const Pressione& pressione) {
+  bool vai_ai_recenti = false;
+  const bool usato = legame.usa([&] {
     if (pressione.tasto == Tasto::Invio && pressione.Nudo())
       continua();
     else if (pressione.tasto == Tasto::Esc && pressione.Nudo())
@@ -317,8 +314,9 @@ void B_InizioFinestra::keyPressEvent(QKeyEvent* evento) {
     else if (pressione.tasto == Tasto::F8 && pressione.Nudo())
       vai_ai_recenti = Vai_Ai_Recenti(programma_, inizio_);
     else
-      usata = TastoInizio(programma_, inizio_, pressione);
+      return TastoInizio(programma_, inizio_, pressione);
+    return true;
   });
   if (vai_ai_recenti) recenti_->setFocus(Qt::OtherFocusReason);
-  if (!usata) Finestra::keyPressEvent(evento);
+  return usato;
 }

@@ -5,7 +5,6 @@
 #include "start/inizio.h"
 
 class CasellaTesto;
-class QLabel;
 class QListView;
 class Quadro;
 
@@ -23,9 +22,10 @@ class B_InizioFinestra : public Finestra {
   void giorno_aperto();
 
  protected:
-  void keyPressEvent(QKeyEvent* evento) override;
+  bool tasto(const Pressione& pressione) override;
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
   void dragEnterEvent(QDragEnterEvent* evento) override;
+  void dragMoveEvent(QDragMoveEvent* evento) override;
   void dropEvent(QDropEvent* evento) override;
 
  private:
@@ -35,9 +35,9 @@ class B_InizioFinestra : public Finestra {
   QWidget* fa_recenti();
   QWidget* fa_strumenti();
   QWidget* fa_ditta();
-  QLabel* scritta(const QString& nome, Scritta& stato);
   void continua();
   void copia(bool dalla_chiavetta);
+  static void prendi(QDropEvent* evento);
   void copia_file(const QList<QUrl>& file);
 
   Programma& programma_;

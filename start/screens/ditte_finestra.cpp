@@ -20,22 +20,13 @@ namespace {
 
 QString In_Q(const Percorso& percorso) { return QString::fromStdString(percorso.string()); }
 
-QPushButton* Fa_Bottone(const QString& nome, const QString& didascalia, QWidget* padre) {
-  auto* bottone = new QPushButton(didascalia, padre);
-  bottone->setObjectName(nome);
-  bottone->setFont(Carattere(punti_normali));
-  bottone->setAutoDefault(true);
-  bottone->setMinimumHeight(bottone->fontMetrics().height() * 2);
-  return bottone;
-}
-
 }  // namespace
 
 DitteFinestra::DitteFinestra(Percorso programmi, Percorso radice)
     : programmi_(std::move(programmi)),
       radice_(std::move(radice)),
       lista_(new QListWidget(this)),
-      apri_(Fa_Bottone(QStringLiteral("Apri"), QStringLiteral("&Apri"), this)) {
+      apri_(Bottone_Comodo(QStringLiteral("Apri"), QStringLiteral("&Apri"), this)) {
   setObjectName(QStringLiteral("Ditte"));
   setWindowTitle(QStringLiteral("Velmara - Scegli la ditta"));
   auto* titolo = new QLabel(QStringLiteral("Quale ditta?"), this);
@@ -46,8 +37,8 @@ DitteFinestra::DitteFinestra(Percorso programmi, Percorso radice)
   lista_->setObjectName(QStringLiteral("ListaDitte"));
   lista_->setAccessibleName(QStringLiteral("Ditte"));
   lista_->setFont(Carattere(punti_grandi));
-  auto* nuova_ditta = Fa_Bottone(QStringLiteral("Nuova"), QStringLiteral("&Nuova ditta..."), this);
-  auto* chiudi = Fa_Bottone(QStringLiteral("Chiudi"), QStringLiteral("&Chiudi"), this);
+  auto* nuova_ditta = Bottone_Comodo(QStringLiteral("Nuova"), QStringLiteral("&Nuova ditta..."), this);
+  auto* chiudi = Bottone_Comodo(QStringLiteral("Chiudi"), QStringLiteral("&Chiudi"), this);
   apri_->setDefault(true);
 
   setTabOrder(nuova_ditta, apri_);
@@ -76,7 +67,13 @@ DitteFinestra::DitteFinestra(Percorso programmi, Percorso radice)
 
 void DitteFinestra::riempi() {
   lista_->clear();
-  for (const Percorso& ditta : Ditte_In(disco_, radice_)) {
+  int errore = 0;
+  const auto ditte = Ditte_In(disco_, radice_, &errore);
+  if (!ditte)
+    QMessageBox::warning(this, windowTitle(),
+                         QStringLiteral("Le ditte non si possono elencare: la cartella\n") + In_Q(radice_) +
+                             QStringLiteral("\nnon si legge: ") + In_QString(Testo_Errore(errore)));
+  for (const Percorso& ditta : ditte.value_or(std::vector<Percorso>())) {
     auto* voce = new QListWidgetItem(In_Q(ditta.filename()), lista_);
     voce->setData(Qt::UserRole, In_Q(ditta));
   }
@@ -86,7 +83,7 @@ void DitteFinestra::riempi() {
 
 bool DitteFinestra::apri_l_unica() {
   const auto ditte = Ditte_In(disco_, radice_);
-  return ditte.size() == 1 && avvia(ditte.front());
+  return ditte && ditte->size() == 1 && avvia(ditte->front());
 }
 
 void DitteFinestra::apri_scelta() {

@@ -59,7 +59,7 @@ PrimoAvvioFinestra::PrimoAvvioFinestra(Piattaforma& piattaforma, char separatore
   auto* conferma_bottone = new QPushButton;
   auto* annulla = new QPushButton;
   legame.lega(conferma_bottone, QStringLiteral("Command1"), Command1_, [this] { conferma(); });
-  legame.lega(annulla, QStringLiteral("Command2"), Command2_, [this] { close(); });
+  legame.lega(annulla, QStringLiteral("Command2"), Command2_, [this] { chiudi_dopo(); });
   riga->addStretch();
   for (QPushButton* bottone : {conferma_bottone, annulla}) {
     bottone->setFont(Carattere(punti_grandi));
@@ -112,7 +112,7 @@ void PrimoAvvioFinestra::conferma() {
     return;
   }
   confermato_ = true;
-  close();
+  chiudi_dopo();
 }
 
 std::optional<PrimoAvvio> PrimoAvvioFinestra::chiedi() {

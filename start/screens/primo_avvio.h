@@ -7,7 +7,6 @@
 #include "platform/finestra.h"
 #include "start/avvio.h"
 
-class QLabel;
 class QLineEdit;
 
 // The first run in a new folder asks who the firm is: the seven letterhead lines, the firm's code, the stall.

@@ -1,7 +1,6 @@
 #include "stats/screens/controllo_cv_finestra.h"
 
 #include <QBoxLayout>
-#include <QCloseEvent>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -23,6 +22,7 @@ constexpr int margine = 14, stacco = 12, righe_in_vista = 16;
 ControlloCVFinestra::ControlloCVFinestra(Programma& programma, QWidget* padre)
     : FinestraModulo(QStringLiteral("ControlloCV"), padre, Qt::Window), programma_(programma) {
   Apri_Controllo(programma_, schermo_);
+  intitola(schermo_.titolo);
   setFont(Carattere(punti_normali));
   auto* tutto = new QVBoxLayout(this);
   tutto->setContentsMargins(margine, margine, margine, margine);
@@ -30,10 +30,9 @@ ControlloCVFinestra::ControlloCVFinestra(Programma& programma, QWidget* padre)
   tutto->setMenuBar(fa_menu());
   tutto->addLayout(fa_periodo());
   tutto->addWidget(fa_lista(), 1);
-  auto* esito = new QLabel;
+  auto* esito = fa_scritta(QStringLiteral("Esito"), schermo_.Esito);
   esito->setWordWrap(true);
   esito->setMinimumHeight(esito->fontMetrics().lineSpacing() * 2);  // the list above stays where it is
-  legame.lega(esito, QStringLiteral("Esito"), schermo_.Esito);
   tutto->addWidget(esito);
   tutto->addLayout(fa_totali());
   tutto->addLayout(fa_comandi());
@@ -42,9 +41,6 @@ ControlloCVFinestra::ControlloCVFinestra(Programma& programma, QWidget* padre)
 
 QMenuBar* ControlloCVFinestra::fa_menu() {
   auto* barra = new QMenuBar;
-  const auto lega = [&](QAction* voce, const char* nome, Bottone& stato, Legame::Evento evento) {
-    legame.lega(voce, QString::fromUtf8(nome), stato, std::move(evento));
-  };
   auto* ordina = barra->addMenu(QStringLiteral("&Ordina"));
   struct Ordine {
     const char* nome;
@@ -55,39 +51,33 @@ QMenuBar* ControlloCVFinestra::fa_menu() {
                            {"OrdinaFornitore", schermo_.OrdinaFornitore, controllo::Fornitore},
                            {"OrdinaProvvigione", schermo_.OrdinaProvvigione, controllo::Commissioni}};
   for (const auto& [nome, stato, colonna] : ordini)
-    lega(ordina->addAction(QString()), nome, stato,
-         [this, quale = colonna] { Ordina_Controllo(programma_, schermo_, quale); });
-  lega(barra->addAction(QString()), "MenuCancella", schermo_.MenuCancella,
-       [this] { Cancella_Controllo(programma_, schermo_); });
-  lega(barra->addAction(QString()), "Scelta_Stampante", schermo_.Scelta_Stampante, [this] {
+    fa_voce(ordina, QString::fromUtf8(nome), stato,
+            [this, quale = colonna] { Ordina_Controllo(programma_, schermo_, quale); });
+  fa_voce(barra, QStringLiteral("MenuCancella"), schermo_.MenuCancella,
+          [this] { Cancella_Controllo(programma_, schermo_); });
+  fa_voce(barra, QStringLiteral("Scelta_Stampante"), schermo_.Scelta_Stampante, [this] {
     StampanteFinestra(programma_, this).esegui();
     Aggiorna_Comandi_Controllo(programma_, schermo_);
   });
-  lega(barra->addAction(QString()), "MenuChiudi", schermo_.MenuChiudi, [this] { close(); });
+  fa_voce(barra, QStringLiteral("MenuChiudi"), schermo_.MenuChiudi, [this] { chiudi_dopo(); });
   return barra;
 }
 
 QBoxLayout* ControlloCVFinestra::fa_periodo() {
   auto* riga = new QHBoxLayout;
-  QLineEdit* anno = fa_campo(QStringLiteral("Text1"), schermo_.Text1, QStringLiteral("Caption_Text1"),
-                             schermo_.Caption_Text1, riga);
+  QLineEdit* anno = fa_campo_grande(QStringLiteral("Text1"), schermo_.Text1, schermo_.Caption_Text1, riga);
   anno->setMaximumWidth(anno->fontMetrics().averageCharWidth() * 12);
-  auto* didascalia = new QLabel;
-  legame.lega(didascalia, QStringLiteral("Caption_Combo1"), schermo_.Caption_Combo1);
-  auto* mese = new QComboBox;
+  auto* didascalia = fa_scritta(QStringLiteral("Caption_Combo1"), schermo_.Caption_Combo1);
+  auto* mese = fa_tendina(QStringLiteral("Combo1"), QStringLiteral("Mese"), schermo_.Combo1);
   mese->setFont(Carattere(punti_grandi));
-  mese->setAccessibleName(QStringLiteral("Mese"));
   mese->setMaxVisibleItems(13);
   didascalia->setBuddy(mese);
-  legame.lega(mese, QStringLiteral("Combo1"), schermo_.Combo1);
   riga->addWidget(didascalia);
   riga->addWidget(mese);
   riga->addWidget(fa_bottone(QStringLiteral("Command3"), schermo_.Command3,
                              [this] { Leggi_Controllo(programma_, schermo_); }));
   riga->addStretch();
-  auto* stampante = new QLabel;
-  legame.lega(stampante, QStringLiteral("Stampante"), schermo_.Stampante);
-  riga->addWidget(stampante);
+  riga->addWidget(fa_scritta(QStringLiteral("Stampante"), schermo_.Stampante));
   return riga;
 }
 
@@ -98,16 +88,11 @@ QWidget* ControlloCVFinestra::fa_lista() {
   colonna->setSpacing(2);
   lista_ = new ListaVoci(programma_.preferenze.DimFontListe);
   lista_->setAccessibleName(QStringLiteral("Conti vendita"));
-  auto* titoli = new QLabel;
-  titoli->setFont(lista_->font());
-  titoli->setTextFormat(Qt::PlainText);
-  titoli->setIndent(lista_->frameWidth() + 3);  // over the list's own columns
-  legame.lega(titoli, QStringLiteral("Titoli"), schermo_.Titoli);
   legame.lega(lista_, QStringLiteral("ListaControllo"), schermo_.ListaControllo);
   const QFontMetrics misure = lista_->fontMetrics();
   lista_->setMinimumWidth(misure.horizontalAdvance(In_QString(schermo_.Titoli.testo)) + misure.height() * 3);
   lista_->setMinimumHeight(misure.height() * righe_in_vista);
-  colonna->addWidget(titoli);
+  colonna->addWidget(fa_titoli(QStringLiteral("Titoli"), schermo_.Titoli, *lista_));
   colonna->addWidget(lista_, 1);
   return parte;
 }
@@ -116,15 +101,14 @@ QBoxLayout* ControlloCVFinestra::fa_totali() {
   auto* riga = new QHBoxLayout;
   riga->addStretch();
   struct Totale {
-    const char *nome, *nome_scritta;
+    const char* nome;
     CampoTesto& stato;
     Scritta& scritta;
   };
-  const Totale totali[] = {{"Text2", "Caption_Text2", schermo_.Text2, schermo_.Caption_Text2},
-                           {"Text3", "Caption_Text3", schermo_.Text3, schermo_.Caption_Text3}};
-  for (const auto& [nome, nome_scritta, stato, scritta] : totali) {
-    QLineEdit* campo =
-        fa_campo(QString::fromUtf8(nome), stato, QString::fromUtf8(nome_scritta), scritta, riga);
+  const Totale totali[] = {{"Text2", schermo_.Text2, schermo_.Caption_Text2},
+                           {"Text3", schermo_.Text3, schermo_.Caption_Text3}};
+  for (const auto& [nome, stato, scritta] : totali) {
+    QLineEdit* campo = fa_campo_grande(QString::fromUtf8(nome), stato, scritta, riga);
     campo->setReadOnly(true);
     campo->setAlignment(Qt::AlignRight);
     campo->setMinimumWidth(campo->fontMetrics().averageCharWidth() * 14);
@@ -139,40 +123,17 @@ QBoxLayout* ControlloCVFinestra::fa_comandi() {
   riga->addWidget(fa_bottone(QStringLiteral("Command5"), schermo_.Command5,
                              [this] { Stampa_Controllo(programma_, schermo_); }));
   riga->addStretch();
-  riga->addWidget(fa_bottone(QStringLiteral("Chiudi"), schermo_.Chiudi, [this] { close(); }));
+  riga->addWidget(fa_bottone(QStringLiteral("Chiudi"), schermo_.Chiudi, [this] { chiudi_dopo(); }));
   return riga;
 }
 
-QLineEdit* ControlloCVFinestra::fa_campo(const QString& nome, CampoTesto& stato, const QString& nome_scritta,
-                                         Scritta& scritta, QBoxLayout* riga) {
-  auto* didascalia = new QLabel;
-  auto* campo = new CasellaTesto;
+QLineEdit* ControlloCVFinestra::fa_campo_grande(const QString& nome, CampoTesto& stato, Scritta& scritta,
+                                                QBoxLayout* riga) {
+  auto* didascalia = fa_scritta(QStringLiteral("Caption_") + nome, scritta);
+  auto* campo = fa_campo(nome, stato, scritta);
   campo->setFont(Carattere(punti_grandi));
-  campo->setAccessibleName(Senza_Scorciatoia(In_QString(scritta.testo)));
   didascalia->setBuddy(campo);
-  legame.lega(didascalia, nome_scritta, scritta);
-  legame.lega(campo, nome, stato);
   riga->addWidget(didascalia);
   riga->addWidget(campo);
   return campo;
-}
-
-QPushButton* ControlloCVFinestra::fa_bottone(const QString& nome, Bottone& stato, Legame::Evento evento) {
-  QPushButton* bottone = Fa_Bottone(stato);
-  legame.lega(bottone, nome, stato, std::move(evento));
-  return bottone;
-}
-
-void ControlloCVFinestra::mostra() {
-  FinestraModulo::mostra();
-  const QString titolo = In_QString(schermo_.titolo);
-  if (windowTitle() != titolo) setWindowTitle(titolo);
-}
-
-// What is being read or printed is finished first.
-void ControlloCVFinestra::closeEvent(QCloseEvent* evento) {
-  if (schermo_.attiva)
-    FinestraModulo::closeEvent(evento);
-  else
-    evento->ignore();
 }

@@ -9,10 +9,8 @@
 
 class QAction;
 class QBoxLayout;
-class QLabel;
 class QListView;
 class QMenuBar;
-class QPushButton;
 class TelaBarre;
 
 // Gives a window what asks for a file in front of it.
@@ -20,7 +18,7 @@ using Chi_Chiede_File = std::function<Scelta_File(QWidget*)>;
 
 // What the windows of the statistics have alike: a menu bar of commands, lists in fixed pitch, the picture,
 // Esc to close.
-class FinestraStatistica : public Finestra {
+class FinestraStatistica : public FinestraDavanti {
   Q_OBJECT
 
  public:
@@ -30,10 +28,6 @@ class FinestraStatistica : public Finestra {
   void mostra() override;
 
  protected:
-  void keyPressEvent(QKeyEvent* evento) override;
-  void closeEvent(QCloseEvent* evento) override;
-
-  void voce(const char* nome, Bottone& stato, Legame::Evento evento);
   void interruttore(const char* nome, Spunta& stato);  // a menu entry that is switched on and off
   // So many characters wide at least.
   QListView* fa_lista(const char* nome, const char* letta, Elenco& stato, int caratteri,
@@ -41,15 +35,11 @@ class FinestraStatistica : public Finestra {
   // A list of names at the side of another, too long ones cut.
   QListView* fa_pannello(const char* nome, const char* letta, Elenco& stato, int caratteri,
                          Legame::Evento evento);
-  QLabel* fa_titoli(const char* nome, Scritta& stato, const QListView& sopra);
-  QLabel* fa_scritta(const char* nome, Scritta& stato);
-  // A field with its caption in front, and a button, at the end of `riga`.
-  void fa_campo(QBoxLayout* riga, const char* nome, CampoTesto& stato, const char* nome_scritta,
-                Scritta& scritta, int caratteri);
-  QPushButton* fa_bottone(QBoxLayout* riga, const char* nome, Bottone& stato, Legame::Evento evento);
-  void chiudi_dopo();                  // once the command that asks for it is done
-  void disponi(QBoxLayout* sinistra);  // the picture stands at the right
-  void ingrandisci();                  // to the size in which long lines show
+  // A date field with its caption in front, at the end of `riga`.
+  void fa_data(QBoxLayout* riga, const QString& nome, CampoTesto& stato, Scritta& scritta);
+  void disponi_con_grafico(QBoxLayout* sinistra);  // the picture stands at the right
+
+  QMenuBar* menu_;
 
  private:
   struct Interruttore {
@@ -58,12 +48,6 @@ class FinestraStatistica : public Finestra {
   };
 
   const Programma& programma_;
-  const Testo& titolo_;
-  QMenuBar* menu_;
   TelaBarre* tela_;
   std::vector<Interruttore> interruttori_;
 };
-
-// Lets the window work between two files of a long reading, and says whether the operator has pressed Esc
-// meanwhile. Whatever else he pressed or clicked is dropped.
-bool Esc_Premuto();

@@ -17,17 +17,18 @@ RXcliFinestra::RXcliFinestra(Programma& programma, Vista cliente, const Chi_Chie
   if (chi_chiede) rxcli_.scegli_file = chi_chiede(this);
   Apri_RXcli(programma_, rxcli_, cliente);
   fa_menu();
-  disponi(fa_liste());
+  disponi_con_grafico(fa_liste());
   clienti_->setFocus(Qt::OtherFocusReason);
   mostra();
 }
 
 void RXcliFinestra::fa_menu() {
-  voce("Stampa", rxcli_.Stampa, [this] { Stampa_Clienti(programma_, rxcli_); });
-  voce("Salva", rxcli_.Salva, [this] { Salva_Totali(programma_, rxcli_); });
-  voce("StampaGrafico", rxcli_.StampaGrafico, [this] { Stampa_Barre(programma_, rxcli_); });
+  fa_voce(menu_, QStringLiteral("Stampa"), rxcli_.Stampa, [this] { Stampa_Clienti(programma_, rxcli_); });
+  fa_voce(menu_, QStringLiteral("Salva"), rxcli_.Salva, [this] { Salva_Totali(programma_, rxcli_); });
+  fa_voce(menu_, QStringLiteral("StampaGrafico"), rxcli_.StampaGrafico,
+          [this] { Stampa_Barre(programma_, rxcli_); });
   interruttore("SoloPeso", rxcli_.SoloPeso);
-  voce("Chiudi", rxcli_.Chiudi, [this] { chiudi_dopo(); });
+  fa_voce(menu_, QStringLiteral("Chiudi"), rxcli_.Chiudi, [this] { chiudi_dopo(); });
 }
 
 QBoxLayout* RXcliFinestra::fa_liste() {
@@ -36,7 +37,7 @@ QBoxLayout* RXcliFinestra::fa_liste() {
   auto* colonna = new QVBoxLayout;
   colonna->setSpacing(2);
   colonna->addWidget(fa_lista("ListaTotali", "Totali per cliente", rxcli_.ListaTotali, caratteri_totali), 1);
-  colonna->addWidget(fa_scritta("Avviso", rxcli_.Avviso));
+  colonna->addWidget(fa_scritta(QStringLiteral("Avviso"), rxcli_.Avviso));
   auto* riga = new QHBoxLayout;
   riga->addWidget(clienti_, 1);
   riga->addLayout(colonna, 3);

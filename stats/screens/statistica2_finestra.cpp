@@ -5,13 +5,11 @@
 #include <QListView>
 #include <QPushButton>
 
-#include "lists/screens/parti.h"
-#include "platform/aspetto.h"
 #include "printing/screens/stampante_finestra.h"
 
 namespace {
 
-constexpr int caratteri_lista = 66, caratteri_data = 12;
+constexpr int caratteri_lista = 66;
 
 }  // namespace
 
@@ -20,34 +18,37 @@ Statistica2Finestra::Statistica2Finestra(Programma& programma, Statistica2 stati
                          padre),
       programma_(programma),
       statistica_(std::move(statistica)) {
-  statistica_.fermata = Esc_Premuto;
   fa_menu();
   QListView* lista = fa_lista("ListaSaldo", "Fornitori", statistica_.ListaSaldo, caratteri_lista);
   auto* colonna = new QVBoxLayout;
   colonna->addLayout(fa_date());
-  colonna->addWidget(fa_titoli("Titoli", statistica_.Titoli, *lista));
+  colonna->addWidget(fa_titoli(QStringLiteral("Titoli"), statistica_.Titoli, *lista));
   colonna->addWidget(lista, 1);
-  colonna->addWidget(fa_scritta("Avanzamento", statistica_.Avanzamento));
-  colonna->addWidget(fa_scritta("Avviso", statistica_.Avviso));
-  disponi(colonna);
+  colonna->addWidget(fa_scritta(QStringLiteral("Avanzamento"), statistica_.Avanzamento));
+  colonna->addWidget(fa_scritta(QStringLiteral("Avviso"), statistica_.Avviso));
+  disponi_con_grafico(colonna);
   mostra();
 }
 
 void Statistica2Finestra::fa_menu() {
-  voce("MenuChiudi", statistica_.MenuChiudi, [this] { chiudi_dopo(); });
-  voce("Stampante", statistica_.Stampante, [this] { StampanteFinestra(programma_, this).esegui(); });
-  voce("Stampa", statistica_.Stampa, [this] { Stampa_Periodo(programma_, statistica_); });
-  voce("StampaGrafico", statistica_.StampaGrafico, [this] { Stampa_Barre(programma_, statistica_); });
-  voce("Aiuto", statistica_.Aiuto, [this] { Aiuto_Statistica2(programma_); });
+  fa_voce(menu_, QStringLiteral("MenuChiudi"), statistica_.MenuChiudi, [this] { chiudi_dopo(); });
+  fa_voce(menu_, QStringLiteral("Stampante"), statistica_.Stampante,
+          [this] { StampanteFinestra(programma_, this).esegui(); });
+  fa_voce(menu_, QStringLiteral("Stampa"), statistica_.Stampa,
+          [this] { Stampa_Periodo(programma_, statistica_); });
+  fa_voce(menu_, QStringLiteral("StampaGrafico"), statistica_.StampaGrafico,
+          [this] { Stampa_Barre(programma_, statistica_); });
+  fa_voce(menu_, QStringLiteral("Aiuto"), statistica_.Aiuto, [this] { Aiuto_Statistica2(programma_); });
   interruttore("Grassetto", statistica_.Grassetto);
 }
 
 QBoxLayout* Statistica2Finestra::fa_date() {
   auto* riga = new QHBoxLayout;
-  fa_campo(riga, "Text1", statistica_.Text1, "Caption_Text1", statistica_.Caption_Text1, caratteri_data);
-  fa_campo(riga, "Text2", statistica_.Text2, "Caption_Text2", statistica_.Caption_Text2, caratteri_data);
-  fa_bottone(riga, "Applica", statistica_.Applica, [this] { Applica_Periodo(programma_, statistica_); });
-  fa_bottone(riga, "Chiudi", statistica_.Chiudi, [this] { chiudi_dopo(); });
+  fa_data(riga, QStringLiteral("Text1"), statistica_.Text1, statistica_.Caption_Text1);
+  fa_data(riga, QStringLiteral("Text2"), statistica_.Text2, statistica_.Caption_Text2);
+  riga->addWidget(fa_bottone(QStringLiteral("Applica"), statistica_.Applica,
+                             [this] { Applica_Periodo(programma_, statistica_); }));
+  riga->addWidget(fa_bottone(QStringLiteral("Chiudi"), statistica_.Chiudi, [this] { chiudi_dopo(); }));
   riga->addStretch();
   return riga;
 }

@@ -18,18 +18,22 @@ StatisticaFinestra::StatisticaFinestra(Programma& programma, const Chi_Chiede_Fi
   if (chi_chiede) statistica_.scegli_file = chi_chiede(this);
   Apri_Statistica(programma_, statistica_);
   fa_menu();
-  disponi(fa_liste());
+  disponi_con_grafico(fa_liste());
   lista_->setFocus(Qt::OtherFocusReason);
   mostra();
 }
 
 void StatisticaFinestra::fa_menu() {
-  voce("Chiudi", statistica_.Chiudi, [this] { chiudi_dopo(); });
-  voce("Salva", statistica_.Salva, [this] { Salva_Statistica(programma_, statistica_); });
-  voce("Stampa", statistica_.Stampa, [this] { Stampa_Statistica(programma_, statistica_); });
-  voce("stampaFornitore", statistica_.stampaFornitore, [this] { Stampa_Fornitore(programma_, statistica_); });
-  voce("StampaGrafico", statistica_.StampaGrafico, [this] { Stampa_Barre(programma_, statistica_); });
-  voce("Aiuto", statistica_.Aiuto, [this] { Aiuto_Statistica(programma_); });
+  fa_voce(menu_, QStringLiteral("Chiudi"), statistica_.Chiudi, [this] { chiudi_dopo(); });
+  fa_voce(menu_, QStringLiteral("Salva"), statistica_.Salva,
+          [this] { Salva_Statistica(programma_, statistica_); });
+  fa_voce(menu_, QStringLiteral("Stampa"), statistica_.Stampa,
+          [this] { Stampa_Statistica(programma_, statistica_); });
+  fa_voce(menu_, QStringLiteral("stampaFornitore"), statistica_.stampaFornitore,
+          [this] { Stampa_Fornitore(programma_, statistica_); });
+  fa_voce(menu_, QStringLiteral("StampaGrafico"), statistica_.StampaGrafico,
+          [this] { Stampa_Barre(programma_, statistica_); });
+  fa_voce(menu_, QStringLiteral("Aiuto"), statistica_.Aiuto, [this] { Aiuto_Statistica(programma_); });
   interruttore("Grassetto", statistica_.Grassetto);
 }
 
@@ -47,7 +51,7 @@ QBoxLayout* StatisticaFinestra::fa_liste() {
   colonna->setSpacing(2);
   colonna->addWidget(titoli);
   colonna->addWidget(lista_, 1);
-  colonna->addWidget(fa_scritta("Avviso", statistica_.Avviso));
+  colonna->addWidget(fa_scritta(QStringLiteral("Avviso"), statistica_.Avviso));
   auto* riga = new QHBoxLayout;
   riga->addWidget(fornitori, 1);
   riga->addLayout(colonna, 3);

@@ -33,17 +33,10 @@ struct Conti_Di_Prova : Ditta_Di_Prova {
   Zvendita zvendita;
 
   explicit Conti_Di_Prova(char separatore = ',') {
-    macchina.separatore = separatore;
     macchina.dispositivo = &printer;
-    programma.Separatore_Decimale = separatore;
-    programma.Separatore_Altro = Altro_Separatore(separatore);
-    programma.Anno_Lavoro = "2025";
-    programma.Data_AAAAMMGG = "20250314";
-    programma.Data_Giorno = "14/03/2025";
-    programma.Cartella_Anno = cartella / "2025";
+    Apri_Giorno(separatore);
     for (const char* nome : {"2025", "2025/CV_NO", "2025/CV_SI"})
       std::filesystem::create_directories(cartella / nome);
-    programma.File_Giorno = cartella / "2025/20250314.txt";
     programma.preferenze = Preferenze_Predefinite();
     programma.Ragione = {
         "Mare Blu s.n.c.",  "di Verdi Anna & C.",        "Posteggio 7", "via Roma, 1", "30100 Venezia - VE",

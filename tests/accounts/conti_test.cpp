@@ -150,7 +150,7 @@ void Fondi_A_Passi(std::vector<LedgerRow>& righe) {
         continue;
       for (const CampoRiga campo : {CampoRiga::Peso, CampoRiga::Colli}) {
         const auto a = Numero(righe[i][campo], ','), b = Numero(righe[i + 1][campo], ',');
-        if (a && b) righe[i][campo] = Piano(*a + *b, ',');
+        if (b) righe[i][campo] = Piano(a.value_or(0) + *b, ',');
       }
       righe.erase(righe.begin() + static_cast<std::ptrdiff_t>(i) + 1);
       fuse = true;

@@ -55,6 +55,17 @@ struct File_In_Cartella : testing::Test, Conti_Di_Prova {
   }
 };
 
+// An editor that opened the file put its mark in front: the supplier is the same.
+TEST_F(File_In_Cartella, LaMarcaDiUnEditorNonEDelFornitore) {
+  cartella.Metti("2025/CV_NO/03140007.txt",
+                 "\xEF\xBB\xBF"
+                 "Mare Blu\r\n650,00\r\n52,00\r\n");
+  const auto testa = Leggi_Testa_Conto(programma.disco, programma.Cartella_Anno / "CV_NO/03140007.txt");
+  ASSERT_TRUE(testa);
+  EXPECT_EQ(testa->Fornitore, "Mare Blu");
+  EXPECT_EQ(testa->ImponibileTotale, "650,00");
+}
+
 TEST_F(File_In_Cartella, SostituisceETogliIlGemello) {
   cartella.Metti("2025/CV_NO/03140007.txt", "vecchio");
   cartella.Metti("2025/CV_SI/03140007.TXT", "saldato");

@@ -39,10 +39,3 @@ TEST_F(Finestra_Conti, LAnteprimaLasciaLaFinestraComEra) {
 }
 
 }  // namespace
-
-int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication qt(argc, argv);
-  testing::InitGoogleTest(&argc, argv);
-  return RUN_ALL_TESTS();
-}

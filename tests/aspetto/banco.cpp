@@ -17,6 +17,6 @@ Banco::Banco() {
   if (Avvia(programma, cartella.percorso, blocco, {}) != EsitoAvvio::Pronto) throw std::logic_error("avvio");
   B_Inizio inizio;
   Carica_Inizio(programma, inizio);
-  if (!Apri_Giorno(programma, inizio)) throw std::logic_error("giorno");
+  if (!::Apri_Giorno(programma, inizio)) throw std::logic_error("giorno");
   Apri_Edita(programma, edita);
 }

@@ -9,10 +9,11 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenuBar>
+#include <QPushButton>
 
 namespace {
 
-constexpr QSize schermo_piccolo(1366, 768);
+constexpr QSize schermo_piccolo(1366, 768 - 32);  // 32 for the caption that the desktop draws
 
 QString Chi(const QWidget& widget) {
   return QStringLiteral("%1 (%2)").arg(widget.objectName(), QLatin1String(widget.metaObject()->className()));
@@ -71,8 +72,12 @@ QStringList Fuori_Misura(const QWidget& finestra) {
       difetti << Chi(*widget) + QStringLiteral(" fuori");
     if (widget->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored) continue;
     const QString testo = (bottone ? bottone->text() : scritta->text()).remove(QLatin1Char('&'));
-    if (widget->width() < widget->fontMetrics().size(0, testo).width())
-      difetti << Chi(*widget) + QStringLiteral(" tagliato");
+    const int spazio = widget->width() - widget->fontMetrics().size(0, testo).width();
+    if (spazio < 0) difetti << Chi(*widget) + QStringLiteral(" tagliato");
+    // the words of a caption don't touch the edge of its button; signs like "..." may
+    const bool parole = testo.size() > 3 && qobject_cast<const QPushButton*>(bottone);
+    if (parole && spazio < 2 * widget->fontMetrics().averageCharWidth())
+      difetti << Chi(*widget) + QStringLiteral(" stretto");
   }
   return difetti;
 }

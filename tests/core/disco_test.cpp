@@ -214,7 +214,7 @@ TEST_F(Disco_Prova, NessunElencoMostraIlFileProvvisorio) {
   disco.guasto = [&](const Percorso&) {
     ++passi;
     for (const Vista modello : {"*.txt", "*.dat", "?????_FAT*.txt"})
-      EXPECT_THAT(disco.Elenca(cartella.percorso, modello), testing::Each("20250314.txt")) << modello;
+      EXPECT_THAT(disco.Elenca(cartella.percorso, modello).value(), testing::Each("20250314.txt")) << modello;
     for (const auto& nome : cartella.Nomi()) visti.push_back(nome);
     return 0;
   };
@@ -256,6 +256,18 @@ TEST_F(Disco_Prova, Aggiungi) {
 }
 
 // A large file grows in place, a small one is replaced; what is cut short is taken back.
+// It isn't flushed, but what can't be written is told as for every other file.
+TEST_F(Disco_Prova, AccodaProvvisorio) {
+  const Percorso file = cartella / "zzz.txt";
+  EXPECT_EQ(disco.Accoda_Provvisorio(file, "uno\r\n"), 0);
+  EXPECT_EQ(disco.Accoda_Provvisorio(cartella / "ZZZ.TXT", "due\r\n"), 0);
+  EXPECT_EQ(disco.Leggi(file), "uno\r\ndue\r\n");
+  EXPECT_EQ(disco.Accoda_Provvisorio(cartella.percorso, "x"), EISDIR);
+  disco.guasto = [](const Percorso&) { return ENOSPC; };
+  EXPECT_EQ(disco.Accoda_Provvisorio(file, "tre"), ENOSPC);
+  EXPECT_EQ(disco.Leggi(file), "uno\r\ndue\r\n");
+}
+
 TEST_F(Disco_Prova, AggiungiAFileGrandiEPiccoli) {
   constexpr std::size_t un_megabyte = std::size_t{1} << 20U;
   const Testo grande(un_megabyte, 'x');
@@ -362,12 +374,65 @@ TEST_F(Disco_Prova, CreaCartella) {
   EXPECT_THAT(cartella.Nomi(), ElementsAre("2025_fat", "file"));
 }
 
+// A folder that leads in a circle is there and can't be read by anybody.
+TEST_F(Disco_Prova, UnaCartellaCheNonSiLeggeNonEVuota) {
+  fs::create_directory_symlink("giro", cartella / "giro");
+  for (const char* nome : {"giro", "giro/2025"}) {
+    int errore = 0;
+    EXPECT_FALSE(disco.Elenca(cartella / nome, "*", &errore).has_value()) << nome;
+    EXPECT_EQ(errore, ELOOP);
+    errore = 0;
+    EXPECT_FALSE(disco.Elenca_Cartelle(cartella / nome, &errore).has_value()) << nome;
+    EXPECT_EQ(errore, ELOOP);
+    EXPECT_FALSE(disco.Elenca(cartella / nome, "*").has_value());
+  }
+  int errore = -1;
+  EXPECT_THAT(disco.Elenca(cartella / "manca", "*", &errore).value(), IsEmpty());
+  EXPECT_EQ(errore, 0);
+}
+
+TEST_F(Disco_Prova, MancaSoloCioCheIlDiscoDiceMancante) {
+  cartella.Metti("Lista.txt", "x");
+  fs::create_directory(cartella / "cartella.txt");
+  fs::create_directory_symlink("giro", cartella / "giro");
+  EXPECT_TRUE(disco.Manca_File(cartella / "altra.txt"));
+  EXPECT_TRUE(disco.Manca_File(cartella / "manca/altra.txt"));
+  EXPECT_TRUE(disco.Manca_File(cartella / "Lista.txt/x"));
+  EXPECT_TRUE(disco.Manca_File(cartella / "cartella.txt"));
+  EXPECT_FALSE(disco.Manca_File(cartella / "LISTA.TXT"));
+  EXPECT_FALSE(disco.Manca_File(cartella / "giro/lista.txt"));
+}
+
+TEST_F(Disco_Prova, LeggiTestoSenzaLaMarca) {
+  cartella.Metti("a.txt",
+                 "\xEF\xBB\xBF"
+                 "uno\xEF\xBB\xBF");
+  cartella.Metti("b.txt", "uno");
+  cartella.Metti("c.txt", "\xEF\xBB\xBF");
+  EXPECT_EQ(disco.Leggi_Testo(cartella / "a.txt"), "uno\xEF\xBB\xBF");
+  EXPECT_EQ(disco.Leggi_Testo(cartella / "b.txt"), "uno");
+  EXPECT_EQ(disco.Leggi_Testo(cartella / "c.txt"), "");
+  int errore = 0;
+  EXPECT_FALSE(disco.Leggi_Testo(cartella / "d.txt", &errore).has_value());
+  EXPECT_EQ(errore, ENOENT);
+}
+
+TEST_F(Disco_Prova, ElencaSegueICollegamenti) {
+  cartella.Metti("vero.txt", "x");
+  fs::create_directory(cartella / "vera");
+  fs::create_symlink("vero.txt", cartella / "altro.txt");
+  fs::create_symlink("manca", cartella / "rotto.txt");
+  fs::create_directory_symlink("vera", cartella / "altra");
+  EXPECT_THAT(disco.Elenca(cartella.percorso, "*.txt").value(), ElementsAre("altro.txt", "vero.txt"));
+  EXPECT_THAT(disco.Elenca_Cartelle(cartella.percorso).value(), ElementsAre("altra", "vera"));
+}
+
 TEST_F(Disco_Prova, ElencaLeCartelle) {
   cartella.Metti("file.txt", "");
   for (const char* nome : {"b", "A", "c/dentro"}) std::filesystem::create_directories(cartella / nome);
-  EXPECT_THAT(disco.Elenca_Cartelle(cartella.percorso), ElementsAre("A", "b", "c"));
-  EXPECT_THAT(disco.Elenca_Cartelle(cartella / "c"), ElementsAre("dentro"));
-  EXPECT_THAT(disco.Elenca_Cartelle(cartella / "manca"), IsEmpty());
+  EXPECT_THAT(disco.Elenca_Cartelle(cartella.percorso).value(), ElementsAre("A", "b", "c"));
+  EXPECT_THAT(disco.Elenca_Cartelle(cartella / "c").value(), ElementsAre("dentro"));
+  EXPECT_THAT(disco.Elenca_Cartelle(cartella / "manca").value(), IsEmpty());
 }
 
 TEST_F(Disco_Prova, ElencaPerModello) {
@@ -375,23 +440,19 @@ TEST_F(Disco_Prova, ElencaPerModello) {
                            "00012_FAT1.txt", "0001_FAT1.txt", "00003_fat.TXT", "è.txt"})
     cartella.Metti(nome, "");
   fs::create_directory(cartella / "cartella.txt");
-  EXPECT_THAT(disco.Elenca(cartella.percorso, "*.dat"), ElementsAre("20250314.dat"));
-  EXPECT_THAT(disco.Elenca(cartella.percorso, "*.txt"),
+  EXPECT_THAT(disco.Elenca(cartella.percorso, "*.dat").value(), ElementsAre("20250314.dat"));
+  EXPECT_THAT(disco.Elenca(cartella.percorso, "*.txt").value(),
               ElementsAre("00003_fat.TXT", "00012_FAT1.txt", "0001_FAT1.txt", "20250101.TXT", "20250314.txt",
                           "è.txt"));
-  EXPECT_THAT(disco.Elenca(cartella.percorso, "?????_FAT*.txt"),
+  EXPECT_THAT(disco.Elenca(cartella.percorso, "?????_FAT*.txt").value(),
               ElementsAre("00003_fat.TXT", "00012_FAT1.txt"));
-  EXPECT_THAT(disco.Elenca(cartella.percorso, "?.txt"), ElementsAre("è.txt"));  // one letter is one character
-  EXPECT_THAT(disco.Elenca(cartella.percorso, "*2025*1*"),
+  EXPECT_THAT(disco.Elenca(cartella.percorso, "?.txt").value(),
+              ElementsAre("è.txt"));  // one letter is one character
+  EXPECT_THAT(disco.Elenca(cartella.percorso, "*2025*1*").value(),
               ElementsAre("20250101.TXT", "20250314.dat", "20250314.txt"));
-  EXPECT_THAT(disco.Elenca(cartella.percorso, ""), IsEmpty());
-  EXPECT_THAT(disco.Elenca(cartella / "manca", "*"), IsEmpty());
-  EXPECT_THAT(disco.Elenca(cartella / "è.txt", "*"), IsEmpty());
-}
-
-TEST(Errori, TestoDellaMacchina) {
-  EXPECT_FALSE(Testo_Errore(ENOSPC).empty());
-  EXPECT_NE(Testo_Errore(ENOSPC), Testo_Errore(EACCES));
+  EXPECT_THAT(disco.Elenca(cartella.percorso, "").value(), IsEmpty());
+  EXPECT_THAT(disco.Elenca(cartella / "manca", "*").value(), IsEmpty());
+  EXPECT_THAT(disco.Elenca(cartella / "è.txt", "*").value(), IsEmpty());
 }
 
 // The lock belongs to an opened folder, so a second opening stands for a second program.

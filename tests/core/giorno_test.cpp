@@ -435,7 +435,7 @@ TEST_F(Giorno, CancellaFileDat) {
   EXPECT_THAT(macchina.messaggi, ElementsAre("Tutto OK..."));
   EXPECT_FALSE(programma.Modo_Dat);
   EXPECT_EQ(cartella.Contenuto("traccia"), "file temporaneo da cancellare\r\n");  // the old bytes are gone
-  EXPECT_THAT(programma.disco.Elenca(cartella / "2025", "*"), ElementsAre("20250314.txt"));
+  EXPECT_THAT(programma.disco.Elenca(cartella / "2025", "*").value(), ElementsAre("20250314.txt"));
   EXPECT_EQ(cartella.Contenuto("2503.dat"), "della ditta");
 }
 
@@ -460,6 +460,28 @@ TEST_F(Giorno, CancellaFileDatSenzaFileOSenzaAnno) {
   EXPECT_EQ(cartella.Contenuto("2503.dat"), "della ditta");
 }
 
+// Of a folder that can't be read nobody knows what it holds.
+TEST_F(Giorno, CancellaFileDatInUnaCartellaCheNonSiLegge) {
+  fs::create_directory_symlink("giro", cartella / "giro");
+  programma.Cartella_Dati = cartella / "giro";
+  macchina.risposte = {true};
+  Cancella_File_Dat(programma, "2024");
+  EXPECT_THAT(macchina.messaggi, ElementsAre(Errore_File(ELOOP, "la cancellazione", cartella / "giro/2024")));
+}
+
+// Deleted, but the old bytes may still lie on the disk.
+TEST_F(Giorno, CancellaFileDatCheNonSiSovrascriveSiDice) {
+  cartella.Metti("2025/20250314.dat", "segreto");
+  const Percorso dat = cartella / "2025/20250314.dat";
+  programma.disco.guasto = [dat, volte = 0](const Percorso& percorso) mutable {
+    return percorso == dat && ++volte == 1 ? EIO : 0;
+  };
+  macchina.risposte = {true};
+  Cancella_File_Dat(programma, "2025");
+  EXPECT_THAT(macchina.messaggi, ElementsAre(Errore_File(EIO, "la cancellazione", dat)));
+  EXPECT_FALSE(fs::exists(dat));
+}
+
 TEST_F(Giorno, CancellaFileDatCheResta) {
   cartella.Metti("2025/20250314.dat", "segreto");
   cartella.Metti("2025/20250315.dat", "segreto");
@@ -468,7 +490,7 @@ TEST_F(Giorno, CancellaFileDatCheResta) {
   macchina.risposte = {true};
   Cancella_File_Dat(programma, "2025");
   EXPECT_THAT(macchina.messaggi, ElementsAre(Errore_File(EACCES, "la cancellazione", ostinato)));
-  EXPECT_THAT(programma.disco.Elenca(cartella / "2025", "*"), ElementsAre("20250314.dat"));
+  EXPECT_THAT(programma.disco.Elenca(cartella / "2025", "*").value(), ElementsAre("20250314.dat"));
 }
 
 }  // namespace

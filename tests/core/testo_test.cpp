@@ -1,5 +1,6 @@
 #include "core/testo.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
@@ -215,6 +216,26 @@ TEST(Testi, SenzaMarca) {
   EXPECT_EQ(Senza_Marca("\xEF\xBB"), "\xEF\xBB");
   EXPECT_EQ(Senza_Marca("x\xEF\xBB\xBF"), "x\xEF\xBB\xBF") << "only at the head";
   EXPECT_EQ(Senza_Marca(""), "");
+}
+
+// Eight bytes at once or one by one: each sign in each place, whatever stands around it.
+TEST(Testo_Campi, LaFineDelCampoSiTrovaInOgniPosto) {
+  const Testo tutti = Tutti_I_Byte();
+  Testo altri;
+  for (const char c : tutti)
+    if (c != TAB && c != '\r' && c != '\n') altri += c;
+  for (std::size_t lungo = 0; lungo <= 20; ++lungo)
+    for (std::size_t posto = 0; posto <= lungo; ++posto)
+      for (std::size_t giro = 0; giro < altri.size(); ++giro)
+        for (const char segno : {TAB, '\r', '\n'}) {
+          Testo testo;
+          for (std::size_t i = 0; i < lungo; ++i) testo += altri[(giro + i * 7) % altri.size()];
+          if (posto < lungo) testo[posto] = segno;
+          if (posto + 1 < lungo) testo.back() = TAB;  // the first one counts
+          const char *inizio = testo.data(), *fine = inizio + testo.size();
+          ASSERT_EQ(Trova_Fine_Campo(inizio, fine) - inizio, std::find_if(inizio, fine, Fine_Campo) - inizio)
+              << testo;
+        }
 }
 
 }  // namespace

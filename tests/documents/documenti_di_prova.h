@@ -17,16 +17,9 @@ struct Documenti_Di_Prova : Ditta_Di_Prova {
   std::vector<Documento_Cliente> stampati;
 
   explicit Documenti_Di_Prova(char separatore = ',') {
-    macchina.separatore = separatore;
     macchina.dispositivo = &printer;
-    programma.Separatore_Decimale = separatore;
-    programma.Separatore_Altro = Altro_Separatore(separatore);
-    programma.Anno_Lavoro = "2025";
-    programma.Data_AAAAMMGG = "20250314";
-    programma.Data_Giorno = "14/03/2025";
-    programma.Cartella_Anno = cartella / "2025";
+    Apri_Giorno(separatore);
     std::filesystem::create_directories(programma.Cartella_Anno);
-    programma.File_Giorno = cartella / "2025/20250314.txt";
     programma.preferenze = Preferenze_Predefinite();
     programma.preferenze.Numero_Posteggio = "07";
     programma.Ragione = {

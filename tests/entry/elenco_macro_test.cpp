@@ -65,6 +65,23 @@ TEST(ElencoMacro, LaRigaDiUnaSpecie) {
                           "RDT GRA FRE XX  WHL ", "SBG", ""));
 }
 
+TEST(ElencoMacro, LaMarcaDiUnEditorNonEDelNome) {
+  Elenco_Di_Prova g;
+  g.Metti("07.txt", "\xEF\xBB\xBFORATA\r\nA0837\r\n");
+  g.ApriElenco();
+  EXPECT_EQ(g.elenco.tabella[0][colonna_macro::Specie], "ORATA");
+}
+
+// The macros may all be there: an empty list must not be taken for none.
+TEST(ElencoMacro, UnaCartellaCheNonSiLeggeSiDice) {
+  Elenco_Di_Prova g;
+  std::filesystem::remove_all(g.cartella / "PREDEF");
+  std::filesystem::create_directory_symlink("PREDEF", g.cartella / "PREDEF");
+  g.ApriElenco();
+  EXPECT_THAT(g.macchina.messaggi, ElementsAre("Errore =" + std::to_string(ELOOP) + "  aprendo il file " +
+                                               Testo_Percorso(g.cartella / "PREDEF")));
+}
+
 TEST(ElencoMacro, LaRigaDiUnFornitore) {
   Elenco_Di_Prova g(Tipo_Macro::Fornitore);
   g.Metti("MARE.txt",

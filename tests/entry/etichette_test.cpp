@@ -201,6 +201,22 @@ TEST(Etichette_Comando, TuttePassaDaOgniRiga) {
   EXPECT_FALSE(Occupata(g.edita));
 }
 
+// The row that is selected then is the one whose label comes next.
+TEST(Etichette_Comando, EscFermaTraUnaELAltra) {
+  Giorno_Di_Etichette g("Ombrano", {"10,00", "congelato", "5 -", "0", "7,5 - solfiti"});
+  const Testo titolo = g.edita.titolo;
+  g.Segna(18);
+  g.macchina.risposte = {true};
+  g.macchina.ferma_dopo = 2;
+  g.Comando();
+  EXPECT_EQ(g.Documenti(), 2);
+  EXPECT_EQ(g.registro.righe.back(), "fine");
+  EXPECT_THAT(g.macchina.messaggi, ElementsAre("Stampa interrotta: 2 etichette su 3."));
+  EXPECT_EQ(g.edita.hd.valore, 5);
+  EXPECT_EQ(g.edita.titolo, titolo);
+  EXPECT_FALSE(Occupata(g.edita));
+}
+
 // Cancel isn't the end: it is the answer "only this one".
 TEST(Etichette_Comando, AnnullaStampaSoloQuesta) {
   Giorno_Di_Etichette g;

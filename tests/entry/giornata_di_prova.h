@@ -1,40 +1,10 @@
 #pragma once
 
-#include <fstream>
-#include <iterator>
-#include <stdexcept>
-#include <stdlib.h>  // mkdtemp
-
 #include "core/date.h"
 #include "core/giorno.h"
 #include "entry/edita.h"
 #include "lists/liste.h"
-#include "tests/piattaforma_finta.h"
-
-// A firm's folder, gone with the object.
-class Cartella_Ditta {
- public:
-  Cartella_Ditta() {
-    std::string modello = (std::filesystem::temp_directory_path() / "velmara_entry_XXXXXX").string();
-    if (mkdtemp(modello.data()) == nullptr) throw std::runtime_error("nessuna cartella di prova");
-    percorso = modello;
-  }
-  ~Cartella_Ditta() {
-    std::error_code errore;
-    std::filesystem::remove_all(percorso, errore);
-  }
-  Cartella_Ditta(const Cartella_Ditta&) = delete;
-  Cartella_Ditta& operator=(const Cartella_Ditta&) = delete;
-
-  Percorso operator/(const std::string& nome) const { return percorso / nome; }
-  std::string Contenuto(const std::string& nome) const {
-    std::ifstream file(percorso / nome, std::ios::binary);
-    if (!file) return "(manca)";
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
-
-  Percorso percorso;
-};
+#include "tests/core/ditta_di_prova.h"
 
 // A case's name in the test lists: the field and the text, without characters that these lists can't hold.
 inline std::string Nome_Caso(CampoRiga campo, Vista testo) {
@@ -49,27 +19,12 @@ inline std::string Nome_Caso(CampoRiga campo, Vista testo) {
 
 // A firm with a few list entries, an open day and its entry screen. What the operator does goes the way of
 // the window: the field's text is stored, then the change is told.
-struct Giornata_Di_Prova {
-  Cartella_Ditta cartella;
-  Piattaforma_Finta macchina;
-  Programma programma{macchina};
+struct Giornata_Di_Prova : Ditta_Di_Prova {
   Edita edita;
 
   explicit Giornata_Di_Prova(char separatore = ',') {
-    macchina.separatore = separatore;
-    programma.Separatore_Decimale = separatore;
-    programma.Separatore_Altro = separatore == ',' ? '.' : ',';
-    programma.Cartella_Dati = cartella.percorso;
-    programma.File_Ini = cartella / "Velmara_2020.ini";
-    programma.Oggi = macchina.oggi;
-    programma.Ieri_AAMMGG = "250313";
-    programma.Anno_Lavoro = "2025";
-    programma.Data_AAAAMMGG = "20250314";
-    programma.Data_GGMMAAAA = "14032025";
-    programma.Data_Giorno = "14/03/2025";
-    programma.Cartella_Anno = cartella / "2025";
+    Apri_Giorno(separatore);
     std::filesystem::create_directories(programma.Cartella_Anno);
-    programma.File_Giorno = cartella / "2025/20250314.txt";
     const Testo commissione = separatore == ',' ? "6,5" : "6.5";
     programma.Vet_Fornitori = {{"0001", "Mare Blu", "", "", "", "", commissione, "MB", ""},
                                {"0002", "Marina Nord", "", "", "", "", "8", "", ""}};

@@ -55,6 +55,14 @@ TEST(Macro, LeRigheDelFornitoreStannoAlLoroPosto) {
   EXPECT_EQ(riga, 18);
 }
 
+// An editor that opened the file put its mark in front: it is no part of the supplier's name.
+TEST(Macro, LaMarcaDiUnEditorNonEDelNome) {
+  Giornata_Macro g;
+  g.Metti("PREDEF_FOR/07.txt", "\xEF\xBB\xBF" + Giornata_Macro::Righe_Numerate(18));
+  ASSERT_EQ(EseguiMacroFornitore(g.programma, g.edita, "07"), 0);
+  EXPECT_EQ(g[C::Fornitore], "riga 1");
+}
+
 TEST(Macro, LeRigheDellaSpecieStannoAlLoroPostoELOttavaSiSalta) {
   Giornata_Macro g;
   g.Metti("PREDEF/07.txt", Giornata_Macro::Righe_Numerate(16));
@@ -400,7 +408,7 @@ TEST(Memorizza, CodiciNumerici) {
       EXPECT_THAT(g.macchina.domande,
                   ElementsAre("a che numero (01-99) o codice (8 caratteri) vuoi associare Mare Blu ?"));
       EXPECT_THAT(g.macchina.messaggi, ElementsAre());
-      const auto nomi = g.programma.disco.Elenca(g.cartella / "PREDEF_FOR", "*");
+      const auto nomi = g.programma.disco.Elenca(g.cartella / "PREDEF_FOR", "*").value();
       if (*caso.file == 0) {
         EXPECT_TRUE(nomi.empty()) << caso.risposta;
         EXPECT_EQ(g.Luce(), "NORMALE");
@@ -462,7 +470,8 @@ TEST(Memorizza, Parole) {
     EXPECT_EQ(g.macchina.messaggi, caso.messaggi) << *caso.risposte[0];
     EXPECT_TRUE(g.macchina.testi.empty());
     const auto nomi =
-        g.programma.disco.Elenca(g.cartella / (caso.tipo == fornitore ? "PREDEF_FOR" : "PREDEF"), "*");
+        g.programma.disco.Elenca(g.cartella / (caso.tipo == fornitore ? "PREDEF_FOR" : "PREDEF"), "*")
+            .value();
     if (*caso.file == 0)
       EXPECT_TRUE(nomi.empty());
     else
@@ -482,7 +491,7 @@ TEST(Memorizza, SopraUnaMacroCheCEChiede) {
   EXPECT_EQ(g.Luce(), "NORMALE");
   MemorizzaSpecie(g.programma, g.edita);
   EXPECT_THAT(g.cartella.Contenuto("PREDEF/orate1.txt"), HasSubstr("Orata\r\n"));
-  EXPECT_EQ(g.programma.disco.Elenca(g.cartella / "PREDEF", "*").size(), 1U);
+  EXPECT_EQ(g.programma.disco.Elenca(g.cartella / "PREDEF", "*").value().size(), 1U);
   EXPECT_EQ(g.Luce(), "BENE");
 }
 

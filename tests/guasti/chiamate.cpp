@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <csignal>
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -29,10 +30,18 @@ void Regia::Uccidi(int posto) {
   posto_ = posto;
 }
 
-void Regia::Ferma() { modo_ = Modo::Ferma; }
+void Regia::Ferma() {
+  modo_ = Modo::Ferma;
+  a_ogni_nome = {};
+}
+
+void Regia::Falsa() {
+  *this = {};
+  modo_ = Modo::Falsa;
+}
 
 int Regia::Prima(const char* nome) {
-  if (modo_ == Modo::Ferma) return 0;
+  if (modo_ == Modo::Ferma || modo_ == Modo::Falsa) return 0;
   chiamate_.emplace_back(nome);
   const bool scrive = chiamate_.back() == "write";
   const bool qui = static_cast<int>(chiamate_.size()) == posto_;
@@ -67,6 +76,10 @@ void Regia::Dopo_Scrittura() const {
   if (muori_) raise(SIGKILL);
 }
 
+void Regia::Dopo_Nome() const {
+  if (a_ogni_nome) a_ogni_nome();
+}
+
 namespace {
 
 // The fault first, else the real call.
@@ -77,6 +90,16 @@ auto Chiama(const char* nome, Vera vera, Argomenti... argomenti) -> decltype(ver
     return -1;
   }
   return vera(argomenti...);
+}
+
+// The same of a call that gives a name to a file or takes it away.
+template <class Vera, class... Argomenti>
+auto Chiama_Nome(const char* nome, Vera vera, Argomenti... argomenti) -> decltype(vera(argomenti...)) {
+  const auto esito = Chiama(nome, vera, argomenti...);
+  const int errore = errno;
+  if (esito == 0) regia().Dopo_Nome();
+  errno = errore;
+  return esito;
 }
 
 }  // namespace
@@ -98,6 +121,8 @@ int __real_mkdir(const char* percorso, mode_t diritti);
 int __real_chmod(const char* percorso, mode_t diritti);
 int __real_truncate(const char* percorso, off_t lunghezza);
 int __real_ftruncate(int file, off_t lunghezza);
+DIR* __real_opendir(const char* percorso);
+dirent* __real_readdir(DIR* cartella);
 
 int __wrap_open(const char* percorso, int modo, mode_t diritti) {
   return Chiama("open", __real_open, percorso, modo, diritti);
@@ -119,6 +144,11 @@ ssize_t __wrap_write(int file, const void* cosa, std::size_t quanti) {
     errno = errore;
     return -1;
   }
+  if (regia().Falsifica()) {
+    std::string altro(static_cast<const char*>(cosa), quanti);
+    for (char& c : altro) c = static_cast<char>(c ^ 1);
+    return __real_write(file, altro.data(), quanti);
+  }
   const ssize_t scritti = __real_write(file, cosa, regia().Quanti(quanti));
   regia().Dopo_Scrittura();
   return scritti;
@@ -138,11 +168,11 @@ int __wrap_stat(const char* percorso, struct stat* stato) {
 int __wrap_faccessat(int cartella, const char* percorso, int modo, int altro) {
   return Chiama("faccessat", __real_faccessat, cartella, percorso, modo, altro);
 }
-int __wrap_rename(const char* da, const char* a) { return Chiama("rename", __real_rename, da, a); }
+int __wrap_rename(const char* da, const char* a) { return Chiama_Nome("rename", __real_rename, da, a); }
 int __wrap_renameat2(int da_dove, const char* da, int a_dove, const char* a, unsigned come) {
-  return Chiama("renameat2", __real_renameat2, da_dove, da, a_dove, a, come);
+  return Chiama_Nome("renameat2", __real_renameat2, da_dove, da, a_dove, a, come);
 }
-int __wrap_unlink(const char* percorso) { return Chiama("unlink", __real_unlink, percorso); }
+int __wrap_unlink(const char* percorso) { return Chiama_Nome("unlink", __real_unlink, percorso); }
 int __wrap_mkdir(const char* percorso, mode_t diritti) {
   return Chiama("mkdir", __real_mkdir, percorso, diritti);
 }
@@ -154,6 +184,21 @@ int __wrap_truncate(const char* percorso, off_t lunghezza) {
 }
 int __wrap_ftruncate(int file, off_t lunghezza) {
   return Chiama("ftruncate", __real_ftruncate, file, lunghezza);
+}
+
+DIR* __wrap_opendir(const char* percorso) {
+  if (const int errore = regia().Prima("opendir"); errore != 0) {
+    errno = errore;
+    return nullptr;
+  }
+  regia().Cartella_Aperta();
+  return __real_opendir(percorso);
+}
+dirent* __wrap_readdir(DIR* cartella) {
+  const int errore = regia().Prima_Voce() ? regia().Prima("readdir") : 0;
+  if (errore == 0) return __real_readdir(cartella);
+  errno = errore;
+  return nullptr;
 }
 
 }  // extern "C"

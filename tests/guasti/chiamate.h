@@ -2,11 +2,12 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
-// The calls by which the program reaches the disk (open, read, write, fsync, close, rename ...). The linker
-// leads those of the program and of these tests through here (--wrap, see tests/CMakeLists.txt), so that each
-// one can fail as on a real disk, with everything that the program does about it.
+// The calls by which the program reaches the disk (open, read, write, fsync, close, rename, opendir ...). The
+// linker leads those of the program and of these tests through here (--wrap, see tests/CMakeLists.txt), so
+// that each one can fail as on a real disk, with everything that the program does about it.
 
 struct Guasto_Chiamata {
   int errore = 0;           // the errno; of a write that is cut short, of the write that follows it
@@ -23,6 +24,10 @@ class Regia {
   // The process dies at that place (from 1): before the call, or when half of a write's bytes are stored.
   void Uccidi(int posto);
   void Ferma();
+  // Lets everything pass, but writes store other bytes than they were given, as a stick may that is worn out.
+  void Falsa();
+  // While calls are written down: after each one that gave a name to a file or took it away.
+  std::function<void()> a_ogni_nome;
 
   const std::vector<std::string>& Chiamate() const { return chiamate_; }
   bool Scattato() const { return scattato_; }  // the fault was met
@@ -32,14 +37,19 @@ class Regia {
   // How many bytes of a write are stored; a write that stores less kills the process where that is asked for.
   std::size_t Quanti(std::size_t voluti);
   void Dopo_Scrittura() const;
+  void Dopo_Nome() const;
   bool In_Scena() const { return modo_ != Modo::Ferma; }
+  bool Falsifica() const { return modo_ == Modo::Falsa; }
+  // All entries of a folder count as one call.
+  void Cartella_Aperta() { prima_voce_ = true; }
+  bool Prima_Voce() { return std::exchange(prima_voce_, false); }
 
  private:
-  enum class Modo { Ferma, Registra, Guasta, Uccidi };
+  enum class Modo { Ferma, Registra, Guasta, Uccidi, Falsa };
   Modo modo_ = Modo::Ferma;
   int posto_ = 0;
   Guasto_Chiamata guasto_;
-  bool scattato_ = false, meta_ = false, muori_ = false, alla_prossima_ = false;
+  bool scattato_ = false, meta_ = false, muori_ = false, alla_prossima_ = false, prima_voce_ = false;
   std::vector<std::string> chiamate_;
 };
 

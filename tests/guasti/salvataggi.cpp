@@ -1,7 +1,9 @@
 #include "tests/guasti/salvataggi.h"
 
 #include "accounts/file_conto.h"
+#include "accounts/gemmit.h"
 #include "accounts/zvendita.h"
+#include "core/posti_finestre.h"
 #include "core/schermo_colori.h"
 #include "core/schermo_preferenze.h"
 #include "documents/zsani.h"
@@ -20,10 +22,15 @@
 #include "lists/ordina.h"
 #include "lists/schermo_esclusi.h"
 #include "primanota/esporta.h"
+#include "printing/nomi_stampe.h"
 #include "start/avvio.h"
 #include "start/copia_giorno.h"
 #include "start/ditte.h"
+#include "start/strumenti.h"
+#include "stats/rxcli.h"
+#include "stats/rxfor.h"
 #include "stats/salva_elenco.h"
+#include "stats/statistica.h"
 #include "transfers/volumi.h"
 
 namespace {
@@ -36,6 +43,15 @@ bool Senza_Messaggi(Scena& scena, const Lavoro& lavoro) {
   const std::size_t prima = scena.macchina.messaggi.size();
   lavoro();
   return scena.macchina.messaggi.size() == prima;
+}
+
+// One message more, which says that all was done. Whatever stopped it must have been told.
+template <class Lavoro>
+bool Con_Il_Messaggio(Scena& scena, const Testo& fine, const Lavoro& lavoro) {
+  const std::size_t prima = scena.macchina.messaggi.size();
+  lavoro();
+  EXPECT_GT(scena.macchina.messaggi.size(), prima) << "finito senza una parola";
+  return scena.macchina.messaggi.size() == prima + 1 && scena.macchina.messaggi.back() == fine;
 }
 
 // ---- the day, numbers, settings
@@ -92,6 +108,30 @@ Esecuzione Diciture(Scena& scena) {
   Apri_Personalizza(scena.programma, *schermo);
   schermo->serie.front().campi.front().testo = "altra";
   return [&scena, schermo] { return Applica_Personalizza(scena.programma, *schermo); };
+}
+
+Esecuzione Posto_Finestra_Nuovo(Scena& scena) {
+  scena.cartella.Metti("_Finestre.txt", "Edita\t1\t2\t3\t4\t0\r\n");
+  return [&scena] {
+    Posti_Finestre posti(scena.programma.disco, scena.programma.Cartella_Dati);
+    return posti.Ricorda("Zsani", {10, 20, 800, 600, false}) == 0;
+  };
+}
+
+Esecuzione Convertiti_I_Vecchi(Scena& scena) {
+  std::filesystem::rename(scena.cartella / "_2020_RAGIONE.txt", scena.cartella / "RAGIONE.txt");
+  return [&scena] {
+    const std::size_t prima = scena.macchina.messaggi.size();
+    Converti_File(scena.programma, "RAGIONE.txt", "_2020_RAGIONE.txt");
+    const auto& detti = scena.macchina.messaggi;
+    const bool gia_fatto = detti.size() == prima;
+    return gia_fatto || Inizia(detti.back(), "Generato il file");
+  };
+}
+
+Esecuzione Programma_Dei_Dati(Scena& scena) {
+  scena.cartella.Metti("ConvertiDati.exe", "programma");
+  return [&scena] { return Senza_Messaggi(scena, [&] { ConvertiDati(scena.programma); }); };
 }
 
 // ---- lists
@@ -183,6 +223,19 @@ Esecuzione Chiusura(Scena& scena) {
   };
 }
 
+Esecuzione Liste_Rinnovate(Scena& scena) {
+  auto edita = Apri(scena);
+  scena.programma.Edita_Aperta = true;
+  scena.programma.Vet_Tabella.righe.push_back(Scena::Riga(4));
+  scena.programma.Tabella_Modificata = true;
+  return [&scena, edita] {
+    scena.macchina.terminata = false;
+    return Con_Il_Messaggio(scena, "Il programma deve essere chiuso e riavviato...",
+                            [&] { RinnovaListe(scena.programma, *edita); }) &&
+           scena.macchina.terminata;
+  };
+}
+
 Esecuzione Macro_Memorizzata(Scena& scena) {
   auto edita = Apri(scena);
   scena.cartella.Metti("PREDEF_FOR/07.txt", "vecchia\r\n");
@@ -252,6 +305,105 @@ Esecuzione Conto(Scena& scena) {
   };
 }
 
+// The day's rows with an account's number keyed by hand.
+std::shared_ptr<Zgemmit> Conti_A_Mano(Scena& scena) {
+  for (LedgerRow& riga : scena.programma.Vet_Tabella.righe) {
+    riga[CampoRiga::NCV] = riga[CampoRiga::Fornitore] == "Mare Blu" ? "12" : "11";
+    riga[CampoRiga::DataCV] = "14/03/2025";
+  }
+  bool errore = false;
+  Salva_Giorno(scena.programma, errore);
+  auto zgemmit = std::make_shared<Zgemmit>();
+  ApriContiManuali(scena.programma, *zgemmit);
+  return zgemmit;
+}
+
+Esecuzione Conto_A_Mano_Cambiato(Scena& scena) {
+  auto zgemmit = Conti_A_Mano(scena);
+  return [&scena, zgemmit] {
+    zgemmit->Text1[Campo_Spese].testo = "5";
+    return Senza_Messaggi(scena, [&] { ModificaDati(scena.programma, *zgemmit); });
+  };
+}
+
+Esecuzione Conti_A_Mano_Stampati(Scena& scena) {
+  auto zgemmit = Conti_A_Mano(scena);
+  zgemmit->Check1.segnata = true;
+  return [&scena, zgemmit] {
+    return Con_Il_Messaggio(scena, "fatto...", [&] { StampaCV(scena.programma, *zgemmit); });
+  };
+}
+
+Esecuzione Conti_Stampati(Scena& scena) {
+  auto zvendita = std::make_shared<Zvendita>();
+  ApriConti(scena.programma, *zvendita);
+  SalvaNumerazione(scena.programma, *zvendita);
+  scena.programma.preferenze.PercentualeAggioBanca =
+      "0";  // as the screen shows it, which each print takes over
+  zvendita->Check1.segnata = true;
+  return [&scena, zvendita] {
+    return Con_Il_Messaggio(scena, "fatto...", [&] { StampaCV(scena.programma, *zvendita); });
+  };
+}
+
+// The screen of the invoices, all numbered.
+std::shared_ptr<ZFatture> Fatture_Numerate(Scena& scena, const Variante_Fatture& variante) {
+  scena.programma.Vet_Tabella.righe.push_back(Scena::Riga(4));
+  scena.programma.Vet_Tabella.righe.back()[CampoRiga::Prezzo] = "-2,00";
+  auto zfatture = std::make_shared<ZFatture>();
+  zfatture->variante = &variante;
+  ApriFatture(scena.programma, *zfatture);
+  NumeraTutto(scena.programma, *zfatture);
+  zfatture->Tutte.segnata = true;
+  zfatture->Stampale.segnata = false;
+  return zfatture;
+}
+
+Esecuzione Corsa_Di(Scena& scena, const Variante_Fatture& variante) {
+  auto zfatture = Fatture_Numerate(scena, variante);
+  return [&scena, zfatture] {
+    return Con_Il_Messaggio(scena, "quanto richiesto è stato fatto...."_t,
+                            [&] { StampaFatNa(scena.programma, *zfatture); });
+  };
+}
+
+Esecuzione Fatture_Stampate(Scena& scena) { return Corsa_Di(scena, Fatture_Senza_Vettore); }
+
+Esecuzione Fatture_Del_Vettore(Scena& scena) {
+  scena.programma.preferenze.Flag_Lear = true;
+  return Corsa_Di(scena, Fatture_Con_Vettore);
+}
+
+Esecuzione Fattura_Sola(Scena& scena) {
+  auto zfatture = Fatture_Numerate(scena, Fatture_Senza_Vettore);
+  return [&scena, zfatture] {
+    zfatture->Stampale.segnata = true;
+    return Con_Il_Messaggio(scena, "Pronto per nuova operazione....",
+                            [&] { DoppioClic(scena.programma, *zfatture, TipoFattura::Fattura, 0); });
+  };
+}
+
+Esecuzione Fatture_Chiuse(Scena& scena) {
+  auto zfatture = Fatture_Numerate(scena, Fatture_Senza_Vettore);
+  zfatture->Text2.testo = "Chioggia";
+  return [&scena, zfatture] {
+    zfatture->chiusa = false;
+    return Con_Il_Messaggio(
+        scena, "Per salvare i numeri di fattura \nsalvare i dati prima di chiudere il programma.",
+        [&] { ChiudiFatture(scena.programma, *zfatture); });
+  };
+}
+
+Esecuzione Stampa_PDF(Scena& scena) {
+  scena.cartella.Metti("Stampe/20250314 Fattura 12.pdf", "consegnata");
+  auto nomi = std::make_shared<Nomi_Stampe>();
+  return [&scena, nomi] {
+    Percorso file;
+    return nomi->Scrivi(scena.programma.disco, scena.cartella / "Stampe", {"20250314", "Fattura", "12", ""},
+                        "%PDF", file) == 0;
+  };
+}
+
 Esecuzione Fatture_Annullate(Scena& scena) {
   for (LedgerRow& riga : scena.programma.Vet_Tabella.righe) riga[CampoRiga::FAT] = "00012";
   scena.programma.Vet_Tabella.righe.push_back(Scena::Riga(4));
@@ -296,6 +448,17 @@ Esecuzione Prima_Nota(Scena& scena) {
   return [&scena] { return EsportaPrimaNota(scena.programma, false, {}); };
 }
 
+Esecuzione Prima_Nota_Su_Chiavetta(Scena& scena) {
+  const Percorso chiavetta = scena.cartella / "chiavetta";
+  std::filesystem::create_directories(chiavetta);
+  scena.macchina.volumi = {{chiavetta, "E:", "CHIAVETTA"}};
+  return [&scena, chiavetta] {
+    return EsportaPrimaNota(scena.programma, false, [chiavetta](ModoCopia, const Percorso&) {
+      return std::optional(DriveScelto{"E:[CHIAVETTA]", chiavetta, false});
+    });
+  };
+}
+
 Esecuzione Su_Chiavetta(Scena& scena) {
   const Percorso chiavetta = scena.cartella / "chiavetta";
   std::filesystem::create_directories(chiavetta);
@@ -309,6 +472,45 @@ Esecuzione Su_Chiavetta(Scena& scena) {
     });
     return scena.macchina.aperti.size() > aperti;  // opened when all went well
   };
+}
+
+Esecuzione Da_Chiavetta(Scena& scena) {
+  const Percorso chiavetta = scena.cartella / "chiavetta";
+  scena.cartella.Metti("chiavetta/2025/20250314.txt", "0001\tAltra\r\n");
+  scena.macchina.volumi = {{chiavetta, "E:", "CHIAVETTA"}};
+  auto inizio = std::make_shared<B_Inizio>();
+  Carica_Inizio(scena.programma, *inizio);
+  return [&scena, inizio, chiavetta] {
+    CopiaGiorno(scena.programma, *inizio, true, [chiavetta](ModoCopia, const Percorso&) {
+      return std::optional(DriveScelto{"E:[CHIAVETTA]", chiavetta, false});
+    });
+    return Contiene(scena.macchina.messaggi.back(), "copiato");
+  };
+}
+
+Esecuzione Saldo_Salvato(Scena& scena) {
+  auto schermo = std::make_shared<RXFor>();
+  Apri_RXFor(scena.programma, *schermo);
+  schermo->Check1.segnata = true;
+  Calcola_Saldo(scena.programma, *schermo);
+  return [&scena, schermo] {
+    return Con_Il_Messaggio(scena, "fatto...", [&] { Salva_Saldo(scena.programma, *schermo); });
+  };
+}
+
+template <class Schermo>
+Esecuzione In_Un_File(Scena& scena, void (*apri)(Scena&, Schermo&), void (*salva)(Programma&, Schermo&)) {
+  auto schermo = std::make_shared<Schermo>();
+  schermo->scegli_file = [&scena] { return std::optional(Percorso(scena.cartella / "scelto.xls")); };
+  apri(scena, *schermo);
+  return [&scena, schermo, salva] {
+    return Con_Il_Messaggio(scena, "fatto...", [&] { salva(scena.programma, *schermo); });
+  };
+}
+
+Esecuzione Totali_Clienti(Scena& scena) {
+  return In_Un_File<RXcli>(
+      scena, [](Scena& dove, RXcli& schermo) { Apri_RXcli(dove.programma, schermo); }, Salva_Totali);
 }
 
 Esecuzione Elenco_Salvato(Scena& scena) {
@@ -356,6 +558,9 @@ std::span<const Salvataggio> Salvataggi() {
       {"TutteLeImpostazioni", Tutte_Le_Impostazioni},
       {"SchermoPreferenze", Schermo_Preferenze},
       {"Colori", Colori},
+      {"PostoDellaFinestra", Posto_Finestra_Nuovo, true},
+      {"VecchiNomi", Convertiti_I_Vecchi},
+      {"ProgrammaDeiDati", Programma_Dei_Dati},
       {"Diciture", Diciture},
       {"Clienti", Lista<Salva_Clienti, &Programma::Vet_Clienti>},
       {"Fornitori", Lista<Salva_Fornitori, &Programma::Vet_Fornitori>},
@@ -379,6 +584,7 @@ std::span<const Salvataggio> Salvataggi() {
       {"ListeGenerate", Liste_Generate},
       {"ComandoSalva", Comando_Salva},
       {"Chiusura", Chiusura, true},
+      {"ListeRinnovate", Liste_Rinnovate},
       {"MacroMemorizzata", Macro_Memorizzata},
       {"MacroTolta", Macro_Tolta},
       {"MacroRinominata", Macro_Rinominata},
@@ -387,12 +593,24 @@ std::span<const Salvataggio> Salvataggi() {
       {"DocumentiNumerati", Documenti_Numerati, true},
       {"ContiNumerati", Conti_Numerati},
       {"FileDelConto", Conto},
+      {"ContoAManoCambiato", Conto_A_Mano_Cambiato},
+      {"ContiAManoStampati", Conti_A_Mano_Stampati},
+      {"ContiStampati", Conti_Stampati},
+      {"FattureStampate", Fatture_Stampate, false, false, true},
+      {"FattureDelVettore", Fatture_Del_Vettore, false, false, true},
+      {"FatturaSola", Fattura_Sola, false, false, true},
+      {"FattureChiuse", Fatture_Chiuse, false, false, true},
+      {"StampaPDF", Stampa_PDF},
       {"FattureAnnullate", Fatture_Annullate},
       {"FileDelleFatture", File_Delle_Fatture},
       {"RapportoFatture", Rapporto_Fatture},
       {"RapportoNote", Rapporto_Note},
       {"PrimaNota", Prima_Nota},
+      {"PrimaNotaSuChiavetta", Prima_Nota_Su_Chiavetta},
       {"SuChiavetta", Su_Chiavetta},
+      {"DaChiavetta", Da_Chiavetta},
+      {"SaldoSalvato", Saldo_Salvato},
+      {"TotaliClienti", Totali_Clienti},
       {"ElencoSalvato", Elenco_Salvato},
       {"PrimoAvvio", Primo_Avvio},
       {"Programmi", Programmi},

@@ -16,6 +16,9 @@ struct Salvataggio {
   // Files are overwritten where they lie, so that nobody reads them again: half of that is as good as the
   // whole.
   bool si_distrugge = false;
+  // The command leaves its numbers in the rows whatever becomes of its files, and the operator saves the day
+  // afterwards.
+  bool cambia_le_righe = false;
 };
 
 std::span<const Salvataggio> Salvataggi();

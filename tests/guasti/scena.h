@@ -7,8 +7,7 @@
 #include "lists/genera.h"
 #include "lists/liste.h"
 #include "printing/registratore.h"
-#include "tests/core/cartella_temporanea.h"
-#include "tests/piattaforma_finta.h"
+#include "tests/core/ditta_di_prova.h"
 
 // The machine of these tests: says OK to every question.
 class Macchina_Che_Conferma : public Piattaforma_Finta {
@@ -36,7 +35,7 @@ struct Scena {
   explicit Scena(const std::filesystem::path& modello) {
     namespace fs = std::filesystem;
     fs::copy(modello, cartella.percorso, fs::copy_options::recursive | fs::copy_options::overwrite_existing);
-    Posti(programma, cartella.percorso);
+    Apri_Giornata(programma, cartella.percorso, ',');
     macchina.dispositivo = &stampante;
     Leggi_Preferenze(programma);
     Leggi_Ultimi_Numeri(programma);
@@ -44,19 +43,6 @@ struct Scena {
     Leggi_Vettori(programma);
     Leggi_Esclusi(programma);
     Carica_Giorno(programma);
-  }
-
-  static void Posti(Programma& programma, const Percorso& cartella) {
-    programma.Cartella_Dati = cartella;
-    programma.File_Ini = cartella / "Velmara_2020.ini";
-    programma.Oggi = {2025, 3, 14};
-    programma.Ieri_AAMMGG = "250313";
-    programma.Anno_Lavoro = "2025";
-    programma.Data_AAAAMMGG = "20250314";
-    programma.Data_GGMMAAAA = "14032025";
-    programma.Data_Giorno = "14/03/2025";
-    programma.Cartella_Anno = cartella / "2025";
-    programma.File_Giorno = cartella / "2025/20250314.txt";
   }
 
   // Every file with its content; what a save leaves behind that was stopped isn't one of the firm's.
@@ -126,7 +112,7 @@ struct Scena {
           "officinalis\tMolluschi\tSEP1\tSeppia\t1002\tCTC\r\n";
       Macchina_Che_Conferma macchina;
       Programma programma(macchina);
-      Posti(programma, modello.percorso);
+      Apri_Giornata(programma, modello.percorso, ',');
       Genera_Liste(programma);
       modello.Metti("_2020_Descri32_Pelmoro.txt", specie);
       modello.Metti("_2020_Descri32.txt", specie);

@@ -13,6 +13,7 @@
 #include "start/inizio.h"
 #include "tests/guasti/chiamate.h"
 #include "tests/guasti/salvataggi.h"
+#include "tests/guasti/versioni.h"
 
 // The process dies in the middle of a save: every file is a whole old or a whole new one, nothing that was
 // saved is lost, and the program starts and opens the day.
@@ -132,7 +133,7 @@ Figlio Salva_Finche_Muore(const Percorso& cartella, int versione, const Salva_Fi
   if (processo == 0) {
     Macchina_Che_Conferma macchina;
     Programma programma(macchina);
-    Scena::Posti(programma, cartella);
+    Apri_Giornata(programma, cartella, ',');
     Leggi_Preferenze(programma);
     for (;; ++versione)
       Giro(programma, versione, a_modo_suo, [&](char che_cosa) {
@@ -227,39 +228,20 @@ bool Muore_Alla(int posto, const std::function<void()>& salva) {
   return WIFSIGNALED(stato);
 }
 
-using Foto = std::map<std::string, std::string>;
-
-bool Stesso(const Foto& a, const Foto& b, const std::string& nome) {
-  const auto in_a = a.find(nome), in_b = b.find(nome);
-  if (in_a == a.end() || in_b == b.end()) return in_a == a.end() && in_b == b.end();
-  return in_a->second == in_b->second;
-}
-
-int Guaste(const Foto& adesso, const Foto& prima, const Foto& dopo) {
-  Foto tutte = adesso;
-  tutte.insert(prima.begin(), prima.end());
-  return static_cast<int>(std::ranges::count_if(tutte, [&](const auto& voce) {
-    return !Stesso(adesso, prima, voce.first) && !Stesso(adesso, dopo, voce.first);
-  }));
-}
-
-// How many files are neither as before nor as after, over all the calls at which the save can die.
-int Guaste_Da_Morti(const std::function<std::function<void()>(Scena&)>& prepara) {
-  Foto prima, dopo;
+// How many files are neither as before nor as after nor as the save itself has them in between, over all the
+// calls at which it can die.
+std::size_t Guaste_Da_Morti(const std::function<std::function<void()>(Scena&)>& prepara) {
+  Versioni_Intere versioni;
   {
     Scena scena;
-    const auto salva = prepara(scena);
-    prima = scena.Foto();
-    salva();
-    dopo = scena.Foto();
+    versioni.Prendi(scena, prepara(scena));
   }
-  int guaste = 0;
+  std::size_t guaste = 0;
   for (int posto = 1;; ++posto) {
     Scena scena;
     const auto salva = prepara(scena);
     if (!Muore_Alla(posto, salva)) return guaste;
-    const Foto adesso = scena.Foto();
-    guaste += Guaste(adesso, prima, dopo);
+    guaste += versioni.Guaste(scena.Foto()).size();
   }
 }
 
@@ -270,7 +252,7 @@ TEST_P(Morte, AdOgniChiamata) {
   EXPECT_EQ(Guaste_Da_Morti([](Scena& scena) -> std::function<void()> {
               return [salva = GetParam().prepara(scena)] { salva(); };
             }),
-            0);
+            0U);
 }
 
 INSTANTIATE_TEST_SUITE_P(Salvataggi, Morte, testing::ValuesIn(Salvataggi()),
@@ -282,7 +264,7 @@ TEST(Morte, ChiScriveSulPostoEScoperto) {
                 Salva_Sul_Posto(scena.programma, scena.programma.File_Giorno, Scrivi_Tabella(Giorno_Di(9)));
               };
             }),
-            0);
+            0U);
 }
 
 }  // namespace

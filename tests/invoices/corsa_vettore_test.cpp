@@ -6,8 +6,8 @@
 #include "invoices/stampa_fatture.h"
 #include "invoices/transazioni.h"
 #include "printing/registratore.h"
-#include "tests/invoices/fatture_di_prova.h"
 #include "tests/invoices/pagine_di_prova.h"
+#include "tests/invoices/stampe_di_prova.h"
 #include "tests/invoices/taglio.h"
 
 namespace {
@@ -24,37 +24,17 @@ using testing::StartsWith;
 const Testo fatto = "quanto richiesto è stato fatto...."_t;
 
 // A run of a firm that ships: two invoices with expenses of 15 euro at 22%, and a note.
-struct Corsa_Vettore : Fatture_Di_Prova, testing::Test {
+struct Corsa_Vettore : Stampe_Di_Prova {
   Corsa_Vettore() {
-    macchina.dispositivo = &printer;
-    programma.Data_GGMMAAAA = "14032025";
-    programma.preferenze.Codice_Commissionario = "42";
     programma.Ragione = {"Ittica Laguna", "", "", "", "", "", "P.IVA 01234567890"};
-    Vendi("00101", "10", "007", "");
-    Vendi("00102", "5,5", "008", "");
-    Vendi("00101", "-1,5", "R.Fat. 00120 - 10/03/2025", "NA");
-    stampa.fatture = {{"00101", "Pescheria Rialto", "007", "00127"},
-                      {"00102", "Trattoria Pontile", "008", "00128"}};
-    stampa.note = {{"00101", "Pescheria Rialto", "R.Fat. 00120 - 10/03/2025", "NA004"}};
+    Due_Clienti();
     stampa.scelte.Stampale = true;
     stampa.Text2 = "Venezia";
     stampa.spedizione = {.trasporto = {"Vendita", "Casse", "Vettore", {"Trasporti Brenta", "-", "-"}},
                          .spese = 15,
                          .aliquota = 22};
-    stampa.titolo = [this](const Testo& titolo) { titoli.push_back(titolo); };
-  }
-  bool Esegui() {
-    macchina.risposte = {true};
-    return StampaFatNa(programma, stampa);
-  }
-  std::vector<Testo> In(const Testo& dove) const {
-    std::vector<Testo> nomi;
-    for (const Percorso& nome : programma.disco.Elenca(cartella / dove, "*"))
-      nomi.push_back(Testo_Percorso(nome));
-    return nomi;
   }
   Testo Banca() const { return cartella.Contenuto("XBanca/Transazioni_00042_20250314.txt"); }
-  Testo Report() const { return programma.disco.Leggi(PercorsoReport(programma)).value_or("manca"); }
   bool Stampato(Vista cosa) const {
     return std::ranges::any_of(registro.righe,
                                [&](const Testo& riga) { return riga.find(cosa) != Testo::npos; });
@@ -65,11 +45,6 @@ struct Corsa_Vettore : Fatture_Di_Prova, testing::Test {
     cartella.Metti("_ReportLear/20250314_00099_Lear.txt", "lear di prima");
     cartella.Metti("_ReportLear/20250313_00099_Lear.txt", "lear di ieri");
   }
-
-  Registro_Pagine registro;
-  Registratore printer{macchina.stampante, registro};
-  Stampa_Fatture stampa;
-  std::vector<Testo> titoli;
 };
 
 // 20 + 2 and 11 + 1.1 of goods, each with 15 + 3.30 of expenses; the note has none.

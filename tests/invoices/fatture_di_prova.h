@@ -13,15 +13,8 @@ struct Fatture_Di_Prova : Ditta_Di_Prova {
   ZFatture zfatture;
 
   explicit Fatture_Di_Prova(char separatore = ',') {
-    macchina.separatore = separatore;
-    programma.Separatore_Decimale = separatore;
-    programma.Separatore_Altro = Altro_Separatore(separatore);
-    programma.Anno_Lavoro = "2025";
-    programma.Data_AAAAMMGG = "20250314";
-    programma.Data_Giorno = "14/03/2025";
-    programma.Cartella_Anno = cartella / "2025";
+    Apri_Giorno(separatore);
     std::filesystem::create_directories(programma.Cartella_Anno);
-    programma.File_Giorno = cartella / "2025/20250314.txt";
     programma.preferenze = Preferenze_Predefinite();
     programma.preferenze.CittaCV = "Venezia";
     programma.Ultima_NA = 3;

@@ -23,7 +23,8 @@ struct File_Fatture : Ditta_Di_Prova, testing::Test {
   Testo Letto(const std::string& nome) const { return cartella.Contenuto("2025_fat/20250314/" + nome); }
   std::vector<Testo> Nomi() const {
     std::vector<Testo> nomi;
-    for (const Percorso& nome : programma.disco.Elenca(giorno, "*")) nomi.push_back(Testo_Percorso(nome));
+    for (const Percorso& nome : programma.disco.Elenca(giorno, "*").value_or(std::vector<Percorso>()))
+      nomi.push_back(Testo_Percorso(nome));
     return nomi;
   }
   // The document's name when its total is `totale` euro.
@@ -128,6 +129,18 @@ TEST_F(File_Fatture, UnFileCheNonSiCancellaNonFermaGliAltri) {
   EXPECT_EQ(esito.errore, ENOSPC);
   EXPECT_EQ(esito.file, giorno / "b.txt");
   EXPECT_THAT(Nomi(), ElementsAre("b.txt"));
+}
+
+TEST_F(File_Fatture, UnaCartellaCheNonSiLeggeNonEVuota) {
+  std::filesystem::remove_all(giorno.parent_path());
+  std::filesystem::create_directory_symlink("2025_fat", giorno.parent_path());
+  for (const Esito_File& esito : {CancellaFile(programma.disco, giorno, ModelloTutti),
+                                  SostituisciDocumenti(programma.disco, giorno, {}),
+                                  SostituisciFile(programma.disco, giorno, ModelloTutti, {})}) {
+    EXPECT_EQ(esito.errore, ELOOP);
+    EXPECT_EQ(esito.file, giorno);
+    EXPECT_TRUE(esito.rimesso);
+  }
 }
 
 TEST_F(File_Fatture, INuoviPrendonoIlPostoDeiVecchi) {

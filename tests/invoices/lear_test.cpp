@@ -37,7 +37,8 @@ struct Lear : Ditta_Di_Prova, testing::Test {
   Testo Contenuto(const Testo& nome) const { return cartella.Contenuto("_ReportLear/" + nome); }
   std::vector<Testo> Nomi() const {
     std::vector<Testo> nomi;
-    for (const Percorso& nome : programma.disco.Elenca(CartellaLear(programma), "*"))
+    for (const Percorso& nome :
+         programma.disco.Elenca(CartellaLear(programma), "*").value_or(std::vector<Percorso>()))
       nomi.push_back(Testo_Percorso(nome));
     return nomi;
   }

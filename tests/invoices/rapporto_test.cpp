@@ -72,7 +72,7 @@ TEST_F(Rapporto, SiRifaDaCapo) {
 // The owner reads the total as the day's takings: a document of several pages must not be in it twice.
 TEST_F(Rapporto, UnDocumentoDiDuePagineContaUnaVolta) {
   Metti_Giornata();
-  const Tabella_Run run = LeggiDocumenti(programma, TipoFattura::Fattura);
+  const Tabella_Run run = LeggiDocumenti(programma, TipoFattura::Fattura).value();
   ASSERT_THAT(run.righe, SizeIs(3));
   EXPECT_EQ(run.somma, 123400 + 50 + 1000005);
   EXPECT_EQ(run.data, "20250314");
@@ -84,23 +84,37 @@ TEST_F(Rapporto, UnDocumentoDiDuePagineContaUnaVolta) {
   EXPECT_EQ(riga.nome, "00345_FAT_00128_20250314_00042_50_21.txt");
 }
 
+// A report of no invoices would be believed.
+TEST_F(Rapporto, UnaCartellaCheNonSiLeggeNonDaRapporto) {
+  Metti_Giornata();
+  Scrivi();
+  const Testo prima = Report();
+  const Percorso giorno = CartellaGiornoFatture(programma);
+  std::filesystem::remove_all(giorno);
+  std::filesystem::create_directory_symlink("20250314", giorno);
+  const Esito_File esito = ScriviReport(programma, TipoFattura::Fattura);
+  EXPECT_EQ(esito.errore, ELOOP);
+  EXPECT_EQ(esito.file, giorno);
+  EXPECT_EQ(Report(), prima);
+}
+
 TEST_F(Rapporto, LeNoteHannoLaLoroSomma) {
   Metti_Giornata();
-  EXPECT_EQ(LeggiDocumenti(programma, TipoFattura::Nota).somma, -1235);
+  EXPECT_EQ(LeggiDocumenti(programma, TipoFattura::Nota).value().somma, -1235);
 }
 
 TEST_F(Rapporto, UndiciPagineContanoDueVolte) {
   for (int pagina = 1; pagina <= 11; ++pagina)
     Metti("00345_FAT_00128_20250314_00042_50_11" + std::to_string(pagina) + ".txt");
-  const Tabella_Run run = LeggiDocumenti(programma, TipoFattura::Fattura);
+  const Tabella_Run run = LeggiDocumenti(programma, TipoFattura::Fattura).value();
   EXPECT_THAT(run.righe, SizeIs(2));  // pages 1 and 11 end in the same digit
   EXPECT_EQ(run.somma, 100);
 }
 
 TEST_F(Rapporto, UnaPaginaSenzaLaPrimaLasciaUnaRigaVuota) {
-  EXPECT_THAT(LeggiDocumenti(programma, TipoFattura::Fattura).righe, IsEmpty());
+  EXPECT_THAT(LeggiDocumenti(programma, TipoFattura::Fattura).value().righe, IsEmpty());
   Metti("00345_FAT_00128_20250314_00042_50_22.txt");
-  const Tabella_Run run = LeggiDocumenti(programma, TipoFattura::Fattura);
+  const Tabella_Run run = LeggiDocumenti(programma, TipoFattura::Fattura).value();
   ASSERT_THAT(run.righe, SizeIs(1));
   EXPECT_EQ(run.righe[0].nome, "");
   EXPECT_EQ(run.somma, 0);

@@ -6,7 +6,7 @@
 #include "invoices/pagine_testo.h"
 #include "invoices/rapporto.h"
 #include "printing/registratore.h"
-#include "tests/invoices/fatture_di_prova.h"
+#include "tests/invoices/stampe_di_prova.h"
 
 namespace {
 
@@ -22,34 +22,13 @@ using testing::StartsWith;
 
 const Testo fatto = "quanto richiesto è stato fatto...."_t;
 
-// Two customers with invoices, one of them with a credit note too, all numbered.
-struct Stampe_Fatture : Fatture_Di_Prova, testing::Test {
+struct Stampe_Fatture : Stampe_Di_Prova {
   Stampe_Fatture() {
-    macchina.dispositivo = &printer;
-    programma.preferenze.Codice_Commissionario = "42";
     programma.preferenze.Numero_Posteggio = "12";
     programma.Ragione[0] = "Ittica Laguna";
-    Vendi("00101", "10", "007", "");
-    Vendi("00102", "5,5", "008", "");
-    Vendi("00101", "-1,5", "R.Fat. 00120 - 10/03/2025", "NA");
-    stampa.fatture = {{"00101", "Pescheria Rialto", "007", "00127"},
-                      {"00102", "Trattoria Pontile", "008", "00128"}};
-    stampa.note = {{"00101", "Pescheria Rialto", "R.Fat. 00120 - 10/03/2025", "NA004"}};
+    Due_Clienti();
     stampa.Text2 = " Chioggia ";
-    stampa.titolo = [this](const Testo& titolo) { titoli.push_back(titolo); };
-    stampa.attiva = [this](bool si) { attiva.push_back(si); };
   }
-  bool Esegui(bool risposta = true) {
-    macchina.risposte = {risposta};
-    return StampaFatNa(programma, stampa);
-  }
-  std::vector<Testo> File() const {
-    std::vector<Testo> nomi;
-    for (const Percorso& nome : programma.disco.Elenca(CartellaGiornoFatture(programma), "*"))
-      nomi.push_back(Testo_Percorso(nome));
-    return nomi;
-  }
-  Testo Report() const { return programma.disco.Leggi(PercorsoReport(programma)).value_or("manca"); }
   std::vector<Testo> Documenti_Stampati() const {
     std::vector<Testo> documenti;
     for (const Testo& riga : registro.righe)
@@ -61,12 +40,6 @@ struct Stampe_Fatture : Fatture_Di_Prova, testing::Test {
     cartella.Metti("2025_fat/20250314/appunti.txt", "estraneo");
     cartella.Metti("2025_fat/Report/20250314_00042_RepFat.txt", "vecchio report");
   }
-
-  Registro_Pagine registro;
-  Registratore printer{macchina.stampante, registro};
-  Stampa_Fatture stampa;
-  std::vector<Testo> titoli;
-  std::vector<bool> attiva;
 };
 
 const std::vector<Testo> tre_documenti = {"00101_FAT_00127_20250314_00042_2200_11.txt",
@@ -93,7 +66,8 @@ TEST_F(Stampe_Fatture, LaDidascaliaDiceACheePunto) {
                                   "00101 Pagina 1 di 1 in corso...", "00102 Pagina 1 di 1 in corso...",
                                   "Prepara i report...", "Selezione documenti....", "Selezione documenti....",
                                   "Prepara file transazioni con vet_report", "Fatturazione"));
-  EXPECT_THAT(attiva, ElementsAre(false, true));
+  EXPECT_TRUE(lavorava);
+  EXPECT_FALSE(macchina.occupato);
 }
 
 // The credit notes come first, and only the invoices write their numbers into the rows.
@@ -152,7 +126,7 @@ TEST_F(Stampe_Fatture, UnaNotaColSoloNAFermaLaCorsaDopoLaCancellazione) {
                             "numerare tutte le note di accredito"));
     EXPECT_THAT(File(), IsEmpty());
     EXPECT_EQ(Report(), "manca");
-    EXPECT_TRUE(attiva.back());
+    EXPECT_FALSE(macchina.occupato);
   }
 }
 
@@ -196,7 +170,7 @@ TEST_F(Stampe_Fatture, SuUnDiscoPienoRestaQuelCheCEra) {
     EXPECT_THAT(macchina.messaggi[0], HasSubstr("sono rimasti come erano."));
     EXPECT_THAT(File(), ElementsAre("00101_FAT_00099_20250314_00042_100_11.txt", "appunti.txt"));
     EXPECT_EQ(Report(), "vecchio report");
-    EXPECT_TRUE(attiva.back());
+    EXPECT_FALSE(macchina.occupato);
     EXPECT_EQ(titoli.back(), "Fatturazione");
   }
 }
@@ -205,7 +179,7 @@ TEST_F(Stampe_Fatture, UnaCartellaCheNonSiFaLoDice) {
   Disco_Pieno();
   EXPECT_FALSE(Esegui());
   EXPECT_THAT(macchina.messaggi, ElementsAre(HasSubstr("2025_fat")));
-  EXPECT_TRUE(attiva.back());
+  EXPECT_FALSE(macchina.occupato);
 }
 
 TEST_F(Stampe_Fatture, UnReportCheNonSiScriveLoDice) {

@@ -35,7 +35,8 @@ struct Transazioni : Ditta_Di_Prova, testing::Test {
   Testo File() const { return cartella.Contenuto("XBanca/Transazioni_00042_20250314.txt"); }
   std::vector<Testo> In_XBanca() const {
     std::vector<Testo> nomi;
-    for (const Percorso& nome : programma.disco.Elenca(cartella / "XBanca", "*"))
+    for (const Percorso& nome :
+         programma.disco.Elenca(cartella / "XBanca", "*").value_or(std::vector<Percorso>()))
       nomi.push_back(Testo_Percorso(nome));
     return nomi;
   }
@@ -145,6 +146,18 @@ TEST_F(Transazioni, SuUnDiscoPienoRestaIlFileDiPrima) {
   const Esito_File esito = ScriviTransazioni(programma, "00345");
   EXPECT_EQ(esito.errore, ENOSPC);
   EXPECT_EQ(esito.file, FileTransazioni(programma));
+  EXPECT_EQ(File(), "di prima");
+}
+
+// The bank would take a file without amounts for a day without invoices.
+TEST_F(Transazioni, UnGiornoCheNonSiLeggeNonDaTransazioni) {
+  cartella.Metti("XBanca/Transazioni_00042_20250314.txt", "di prima");
+  const Percorso giorno = CartellaGiornoFatture(programma);
+  std::filesystem::create_directories(giorno.parent_path());
+  std::filesystem::create_directory_symlink("20250314", giorno);
+  const Esito_File esito = ScriviTransazioni(programma, "00345");
+  EXPECT_EQ(esito.errore, ELOOP);
+  EXPECT_EQ(esito.file, giorno);
   EXPECT_EQ(File(), "di prima");
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cerrno>
-#include <cstdlib>
 #include <gmock/gmock.h>
 #include <set>
 #include <tuple>
@@ -9,16 +8,13 @@
 #include "core/programma.h"
 #include "lists/file_lista.h"
 #include "lists/liste.h"
+#include "tests/core/cartella_temporanea.h"
 #include "tests/piattaforma_finta.h"
 
 // A firm's empty folder, which goes when the test ends, with its program and machine.
 class Cartella_Ditta : public testing::Test {
  protected:
-  Cartella_Ditta() {
-    Testo modello = testing::TempDir() + "velmara_liste_XXXXXX";
-    programma.Cartella_Dati = mkdtemp(modello.data());
-  }
-  ~Cartella_Ditta() override { std::filesystem::remove_all(programma.Cartella_Dati); }
+  Cartella_Ditta() { programma.Cartella_Dati = temporanea.percorso; }
 
   Percorso File(Vista nome) const { return Unisci_Percorso(programma.Cartella_Dati, nome); }
   void Scrivi(Vista nome, Vista contenuto) const {
@@ -34,6 +30,7 @@ class Cartella_Ditta : public testing::Test {
     return "Errore =" + std::to_string(ENOSPC) + "  aprendo il file " + Testo_Percorso(File(nome));
   }
 
+  Cartella_Temporanea temporanea;
   Piattaforma_Finta macchina;
   Programma programma{macchina};
 };

@@ -1,5 +1,8 @@
 #include "lists/ordina.h"
 
+#include <algorithm>
+#include <numeric>
+
 #include "lists/consolida.h"
 #include "tests/lists/cartella_ditta.h"
 
@@ -37,6 +40,24 @@ TEST(Quick_Sort, OrdinaIgnorandoLeMaiuscoleTraIDueEstremi) {
   std::vector<Testo> nessuna;
   Quick_Sort(nessuna, 0, 0);
   EXPECT_THAT(nessuna, IsEmpty());
+}
+
+// Rounds of every length, rows that stay where they are, and texts both short and long enough for a memory of
+// their own.
+TEST(Riordina, OgniRigaVaAlSuoPosto) {
+  constexpr std::size_t quante = 6;
+  std::vector<Testo> righe;
+  for (std::size_t i = 0; i < quante; ++i)
+    righe.push_back(Testo(i % 2 == 0 ? 3 : 40, static_cast<char>('a' + i)));
+  std::vector<std::size_t> ordine(quante);
+  std::iota(ordine.begin(), ordine.end(), std::size_t{0});
+  do {
+    std::vector<Testo> attese;
+    for (const std::size_t vecchio : ordine) attese.push_back(righe[vecchio]);
+    std::vector<Testo> ordinate = righe;
+    Riordina(ordinate, ordine);
+    ASSERT_EQ(ordinate, attese);
+  } while (std::ranges::next_permutation(ordine).found);
 }
 
 TEST_F(Ordini, PerUnCampoComeTestoECambiaColonnaOrdine) {
@@ -135,6 +156,32 @@ TEST_F(Ordini, RinumerareChiudeIVuotiNellOrdineDiImmissione) {
   EXPECT_EQ(programma.Colonna_Ordine, 1);
 }
 
+// A number of five digits stands behind those of four, where its text alone would stand among them.
+TEST_F(Ordini, OltreNovemilanovecentonovantanoveRigheLOrdineDiImmissioneTiene) {
+  std::vector<Testo> specie;
+  for (int i = 1; i <= 32767; ++i) specie.push_back(std::to_string(i));
+  Righe_Con(CampoRiga::Specie, specie);
+  Ordina_Colonna(programma, CampoRiga::Num);
+  EXPECT_EQ(Colonna(CampoRiga::Specie), specie);
+  std::ranges::reverse(programma.Vet_Tabella.righe);
+  EXPECT_FALSE(Rinumera_Tabella(programma));
+  EXPECT_EQ(Colonna(CampoRiga::Specie), specie);
+  EXPECT_EQ(programma.Vet_Tabella(CampoRiga::Num, 10000), "10000");
+}
+
+// Up to four digits, and for what is no number, Num goes by its text as every other field.
+TEST_F(Ordini, FinoAQuattroCifreIlNumeroETesto) {
+  Righe_Con(CampoRiga::Fornitore, {"a", "a", "a", "a", "a", "a", "a", "a", "a"});
+  const std::vector<Testo> numeri = {"10000", "9999", "0007", "7", "9x", "", "-", "x", "123456"};
+  for (int r = 1; r <= 9; ++r)
+    programma.Vet_Tabella(CampoRiga::Num, r) = numeri[static_cast<std::size_t>(r - 1)];
+  const std::vector<Testo> attesi = {"", "-", "0007", "7", "9999", "9x", "10000", "123456", "x"};
+  Ordina_Colonna(programma, CampoRiga::Num);
+  EXPECT_EQ(Colonna(CampoRiga::Num), attesi);
+  OrdinaTre(programma, CampoRiga::Fornitore, CampoRiga::Specie, CampoRiga::Num);
+  EXPECT_EQ(Colonna(CampoRiga::Num), attesi);
+}
+
 TEST_F(Ordini, DodicimilaRigheIntere) {
   std::vector<Testo> testi;
   for (int i = 0; i < 12000; ++i) testi.push_back(std::to_string(i * 7919 % 12000));
@@ -203,10 +250,15 @@ TEST(Consolida, LeSommeSonoTestiDecimaliSenzaZeriDiTroppo) {
               ElementsAre(Riga4{"a", "b", "13.5", "-0.5"}));
 }
 
-// Where a text is no number the sum stays what it was, as everywhere.
+// A text that is no number counts as nothing: it neither changes the sum nor takes the weight of its
+// neighbours away, which stand on a document and an invoice.
 TEST(Consolida, UnTestoCheNonENumeroNonCambiaLaSomma) {
   EXPECT_THAT(Consolidata({{"a", "b", "x", "1"}, {"a", "b", "2", ""}, {"a", "b", "3", "4"}}),
-              ElementsAre(Riga4{"a", "b", "x", "1"}));
+              ElementsAre(Riga4{"a", "b", "5", "5"}));
+  EXPECT_THAT(Consolidata({{"a", "b", "10,50", "1"}, {"a", "b", "x", "x"}, {"a", "b", "5", "2"}}),
+              ElementsAre(Riga4{"a", "b", "15,5", "3"}));
+  EXPECT_THAT(Consolidata({{"a", "b", "x", "01"}, {"a", "b", "", "y"}}),
+              ElementsAre(Riga4{"a", "b", "x", "01"}));
 }
 
 TEST(Consolida, MenoDiDueRigheRestanoComeSono) {

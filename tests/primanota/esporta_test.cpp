@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <gmock/gmock.h>
 
+#include "lists/aiuto_esportazione.h"
 #include "tests/primanota/note_di_prova.h"
 
 namespace {
@@ -134,7 +135,7 @@ TEST_F(Esportazione_Riga, Importi) {
       {"1.234,5", "2", "2", "2,00", "0,00", "0,00"},
   };
   for (const char separatore : {',', '.'}) {
-    Separatore(separatore);
+    Apri_Giorno(separatore);
     for (const Caso& caso : casi) {
       const RigaEsportata campi = Campi(Riga(1, "Laguna", caso.peso, caso.prezzo));
       EXPECT_EQ(campi[0], caso.tipo) << caso.peso << " " << caso.prezzo;
@@ -302,7 +303,7 @@ TEST_F(Esportazione_File, SullaChiavetta) {
   EXPECT_TRUE(EsportaPrimaNota(programma, false, Prende(1)));
   EXPECT_THAT(macchina.messaggi.back(), HasSubstr("in:\n" + Testo_Percorso(chiavetta / "20250314.txt")));
   EXPECT_EQ(Letto(cartella, "chiavetta/20250314.txt"), "3 righe, 0 guasti\n");
-  EXPECT_THAT(programma.disco.Elenca(cartella / "XBanca", "*"), IsEmpty());
+  EXPECT_THAT(programma.disco.Elenca(cartella / "XBanca", "*").value(), IsEmpty());
 }
 
 // The program itself lives on the stick: then the root of the same stick isn't another drive.
@@ -317,7 +318,7 @@ TEST_F(Esportazione_File, LoStessoVolumeELaCartella) {
 TEST_F(Esportazione_File, DueVolteUnSoloFile) {
   Giornata();
   for (int i = 0; i < 2; ++i) EXPECT_TRUE(EsportaPrimaNota(programma, false, Prende(0)));
-  EXPECT_THAT(programma.disco.Elenca(cartella / "XBanca", "*"), ElementsAre("20250314.txt"));
+  EXPECT_THAT(programma.disco.Elenca(cartella / "XBanca", "*").value(), ElementsAre("20250314.txt"));
 }
 
 TEST_F(Esportazione_File, SoloLUltimoResta) {
@@ -326,7 +327,7 @@ TEST_F(Esportazione_File, SoloLUltimoResta) {
   cartella.Metti("XBanca/Transazioni_00345_20250313.txt", "banca");
   cartella.Metti("XBanca/vecchi/20240101.txt", "cartella");
   EXPECT_TRUE(EsportaPrimaNota(programma, false, Prende(0)));
-  EXPECT_THAT(programma.disco.Elenca(cartella / "XBanca", "*"), ElementsAre("20250314.txt"));
+  EXPECT_THAT(programma.disco.Elenca(cartella / "XBanca", "*").value(), ElementsAre("20250314.txt"));
   EXPECT_EQ(cartella.Contenuto("XBanca/vecchi/20240101.txt"), "cartella");
 }
 
@@ -334,7 +335,7 @@ TEST_F(Esportazione_File, Annullata) {
   Giornata();
   EXPECT_FALSE(EsportaPrimaNota(programma, false, Prende(-1)));
   EXPECT_THAT(macchina.messaggi, ElementsAre("Operazione Annullata dall'Utente..."));
-  EXPECT_THAT(programma.disco.Elenca(cartella / "XBanca", "*"), IsEmpty());
+  EXPECT_THAT(programma.disco.Elenca(cartella / "XBanca", "*").value(), IsEmpty());
 }
 
 TEST_F(Esportazione_File, SenzaChiedereSulDisco) {
@@ -348,7 +349,7 @@ TEST_F(Esportazione_File, IlNomeEDelFileDelGiorno) {
   Giornata();
   programma.File_Giorno = cartella / "2025/20250314.dat";
   EXPECT_TRUE(EsportaPrimaNota(programma, false, Prende(0)));
-  EXPECT_THAT(programma.disco.Elenca(cartella / "XBanca", "*"), ElementsAre("20250314.txt"));
+  EXPECT_THAT(programma.disco.Elenca(cartella / "XBanca", "*").value(), ElementsAre("20250314.txt"));
 }
 
 TEST_F(Esportazione_File, ChiEEsclusoPerNomeNonSiConta) {
@@ -420,7 +421,7 @@ TEST_F(Esportazione_File, ChiavettaPienaOProtetta) {
     EXPECT_EQ(cartella.Contenuto("chiavetta/20250314.txt"), "prima");
     EXPECT_EQ(programma.Vet_Tabella.righe, giornata.righe);
   }
-  EXPECT_EQ(programma.disco.Elenca(chiavetta, "*").size(), 1U) << "nothing half written is left";
+  EXPECT_EQ(programma.disco.Elenca(chiavetta, "*").value().size(), 1U) << "nothing half written is left";
 }
 
 TEST_F(Esportazione_File, ChiavettaToltaDopoLaScelta) {
@@ -458,7 +459,7 @@ TEST_F(Esportazione_File, UnFileCheNonSiCancellaFerma) {
 }
 
 TEST_F(Esportazione_File, Aiuto) {
-  EXPECT_EQ(AiutoEsportazione(programma),
+  EXPECT_EQ(Aiuto_Esportazione(Testo_Percorso(cartella.percorso)),
             "Il file da trasmettere alla Veritas (per eleborare le statistiche):\n"
             "viene salvato nella cartella:\n" +
                 Testo_Percorso(cartella.percorso) +

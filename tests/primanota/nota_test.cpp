@@ -96,7 +96,7 @@ TEST_F(Nota_Composta, PesoPrezzoImporto) {
       {"10", "5", "ESENTE", "10,00", "5,00", 50, 0, false},
   };
   for (const char separatore : {',', '.'}) {
-    Separatore(separatore);
+    Apri_Giorno(separatore);
     for (const Caso& caso : casi) {
       const Riga_Nota riga = Composta(caso.peso, caso.prezzo, caso.iva);
       EXPECT_EQ(riga.Peso, caso.peso_stampato);

@@ -10,12 +10,7 @@
 // A firm with an open day, as the screen of the ledger's print finds it.
 struct Note_Di_Prova : Stampa_Di_Prova {
   Note_Di_Prova() {
-    programma.Anno_Lavoro = "2025";
-    programma.Data_AAAAMMGG = "20250314";
-    programma.Data_GGMMAAAA = "14032025";
-    programma.Data_Giorno = "14/03/2025";
-    programma.Cartella_Anno = cartella / "2025";
-    programma.File_Giorno = cartella / "2025/20250314.txt";
+    Apri_Giorno();
     std::filesystem::create_directories(cartella / "XBanca");
     programma.preferenze.Codice_Commissionario = "345";
     programma.preferenze.FlagC3pn = false;
@@ -26,12 +21,6 @@ struct Note_Di_Prova : Stampa_Di_Prova {
                              {"00124", "Trattoria Lido", "zz", "", "", "", "ESCLUSO", "-", ""},
                              {"00200", "Bar Ponte", "zz", "", "", "", "-", "-", ""}};
     programma.Vet_Tabella.righe = {Riga_Segnaposto()};
-  }
-
-  void Separatore(char separatore) {
-    macchina.separatore = separatore;
-    programma.Separatore_Decimale = separatore;
-    programma.Separatore_Altro = Altro_Separatore(separatore);
   }
 
   static LedgerRow Riga(int numero, Vista fornitore, Vista peso = "10", Vista prezzo = "5") {

@@ -42,6 +42,20 @@ TEST(Nomi_Stampe, UnNomeLunghissimoESoloTagliato) {
   EXPECT_EQ(nome, "20250314 " + Testo(111, 'x'));
 }
 
+// What counts on the disk are bytes, of which "€" has three; a running number and the extension come behind.
+TEST(Nomi_Stampe, UnNomeLunghissimoStaSulDiscoAncheConLeLettereCheContanoTriplo) {
+  const Cartella_Temporanea cartella;
+  const Disco disco;
+  for (const Testo& lettera : {"€"_t, "à"_t, "x"_t}) {
+    Testo molte;
+    for (int i = 0; i < 200; ++i) molte += lettera;
+    for (int i = 0; i < 2; ++i) {
+      const Percorso file = File_Stampa(disco, cartella.percorso, {"20250314", molte, "1", "2"});
+      EXPECT_EQ(disco.Sostituisci(file, "%PDF"), 0) << file;
+    }
+  }
+}
+
 // A copy that was handed out stays what it was.
 TEST(Nomi_Stampe, UnNomeCheCEHaDietroUnNumero) {
   const Cartella_Temporanea cartella;
@@ -64,9 +78,8 @@ TEST(NomiStampe, UnaCorsaVedeAncheICambiamentiAltrui) {
   Nomi_Stampe nomi;
   const Documento documento{"20250314", "Fattura", "12", "00345"};
   const auto stampa = [&] {
-    const Percorso file = nomi.Libero(disco, cartella.percorso, documento);
-    EXPECT_EQ(disco.Scrivi_Nuovo(file, "carta"), 0);
-    nomi.Scritto(disco, file);
+    Percorso file;
+    EXPECT_EQ(nomi.Scrivi(disco, cartella.percorso, documento, "carta", file), 0);
     return Nome_File(file);
   };
   EXPECT_EQ(stampa(), "20250314 Fattura 12 00345.pdf");
@@ -78,6 +91,22 @@ TEST(NomiStampe, UnaCorsaVedeAncheICambiamentiAltrui) {
   std::filesystem::remove(cartella / "20250314 Fattura 12 00345.pdf");
   std::filesystem::last_write_time(cartella.percorso, std::filesystem::file_time_type::clock::now() + 2s);
   EXPECT_EQ(stampa(), "20250314 Fattura 12 00345.pdf");
+}
+
+// The folder's time may not tell of what came in the same moment: nothing that stands there is written over.
+TEST(NomiStampe, UnNomePresoInQuestoMomento) {
+  const Cartella_Temporanea cartella;
+  const Disco disco;
+  Nomi_Stampe nomi;
+  const Documento documento{"20250314", "Fattura", "12", "00345"};
+  const auto prima = std::filesystem::last_write_time(cartella.percorso);
+  nomi.Libero(disco, cartella.percorso, documento);
+  cartella.Metti("20250314 Fattura 12 00345.pdf", "d'altri");
+  std::filesystem::last_write_time(cartella.percorso, prima);
+  Percorso file;
+  EXPECT_EQ(nomi.Scrivi(disco, cartella.percorso, documento, "carta", file), 0);
+  EXPECT_EQ(Nome_File(file), "20250314 Fattura 12 00345 (2).pdf");
+  EXPECT_EQ(cartella.Contenuto("20250314 Fattura 12 00345.pdf"), "d'altri");
 }
 
 }  // namespace

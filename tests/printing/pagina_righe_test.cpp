@@ -72,6 +72,37 @@ TEST_F(Stampa_Di_Righe, UnaRigaLargaRimpiccioliscETuttoIlDocumento) {
   }
 }
 
+// A list is one document: of a stopped one nothing comes out, where the printer takes it back.
+TEST_F(Stampa_Di_Righe, EscFermaTraDuePagine) {
+  foglio.righe.assign(130, {"riga"});
+  macchina.ferma_dopo = 2;
+  Stampa();
+  EXPECT_EQ(registro.pagine, 2);
+  EXPECT_EQ(registro.righe.back(), "abbandonato");
+  EXPECT_EQ(titolo, "Schermo");
+  EXPECT_THAT(macchina.messaggi, ElementsAre("Stampa interrotta: 0 pagine su 3."));
+  macchina.messaggi.clear();
+  macchina.ferma_dopo.reset();
+  Stampa();  // the next one is as any other
+  EXPECT_EQ(registro.pagine, 2 + 3);
+  EXPECT_EQ(registro.righe.back(), "fine");
+  EXPECT_THAT(macchina.messaggi, IsEmpty());
+}
+
+// Pages that a printer has taken come out.
+TEST_F(Stampa_Di_Righe, LePagineGiaConsegnateSiContano) {
+  struct Di_Carta : Registratore {
+    using Registratore::Registratore;
+    bool Abbandona_Documento() override { return !Finisci_Documento(); }
+  } carta{macchina.stampante, registro};
+  macchina.dispositivo = &carta;
+  foglio.righe.assign(130, {"riga"});
+  macchina.ferma_dopo = 2;
+  Stampa();
+  EXPECT_EQ(registro.righe.back(), "fine");
+  EXPECT_THAT(macchina.messaggi, ElementsAre("Stampa interrotta: 2 pagine su 3."));
+}
+
 // Borders that leave no room at all: the document comes out, however little of it.
 TEST_F(Stampa_Di_Righe, ConBordiImpossibiliFinisceLoStesso) {
   programma.preferenze.BORDO3 = 150;

@@ -44,14 +44,14 @@ void Avviso(QtMsgType tipo, const QMessageLogContext&, const QString& testo) {
 }
 
 int Figlio(Copione copione, const Percorso& file, const Percorso& radice, Segnalibro& segnalibro,
-           Album* album, int& argc, char** argv) {
+           Album* album, const Percorso& resto, int& argc, char** argv) {
   qInstallMessageHandler(Avviso);
   setenv("XDG_RUNTIME_DIR", radice.c_str(), 0);  // the toolkit makes one elsewhere, which would stay
   QApplication applicazione(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   Prepara_Aspetto();
   Giornata giornata(
-      std::move(copione), file, radice, [&](int riga) { segnalibro.riga() = riga; }, album);
+      std::move(copione), file, radice, [&](int riga) { segnalibro.riga() = riga; }, album, resto);
   return giornata.Gioca();
 }
 
@@ -85,7 +85,7 @@ int Aspetta(pid_t figlio, const std::string& file, Segnalibro& segnalibro) {
 
 }  // namespace
 
-int Gioca_Copione(const Percorso& file, int& argc, char** argv, Album* album) {
+int Gioca_Copione(const Percorso& file, int& argc, char** argv, Album* album, const Percorso& resto) {
   const std::string nome = file.string();
   try {
     auto letto = Leggi_Copione(Leggi_Byte(file), Forme());
@@ -103,7 +103,8 @@ int Gioca_Copione(const Percorso& file, int& argc, char** argv, Album* album) {
     std::fflush(stdout);
     const pid_t figlio = fork();
     if (figlio < 0) throw Fallito("un processo", std::strerror(errno));
-    if (figlio == 0) std::exit(Figlio(std::move(copione), file, radice, segnalibro, album, argc, argv));
+    if (figlio == 0)
+      std::exit(Figlio(std::move(copione), file, radice, segnalibro, album, resto, argc, argv));
     const int esito = Aspetta(figlio, nome, segnalibro);
     Rimuovi(radice);
     return esito;

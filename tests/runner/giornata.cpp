@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <iterator>
 #include <set>
 #include <unistd.h>
 
@@ -62,11 +63,12 @@ void Stampa_Fallita(const std::string& file, int riga, const std::string& passo,
 }
 
 Giornata::Giornata(Copione copione, const Percorso& file, const Percorso& radice,
-                   std::function<void(int)> segna, Album* album)
+                   std::function<void(int)> segna, Album* album, const Percorso& resto)
     : copione_(std::move(copione)), nome_(file.string()), segna_(std::move(segna)) {
   scena_.accanto = std::filesystem::absolute(file).parent_path();
   scena_.radice = radice;
   scena_.album = album;
+  scena_.resto = resto;
   scena_.macchina.senza_risposta = [this](const std::string& atteso, const std::string& trovato) {
     const Passo& passo = copione_.passi[ultimo_];
     fallisci(passo.riga, passo.scritto, atteso, trovato);
@@ -120,6 +122,8 @@ void Giornata::gioca_passo() {
   segna_(passo.riga);
   alarm(secondi_per_passo);
   if (mossa.genere == Genere_Passo::Gesto && scena_.pagine_viste) {
+    auto& girate = scena_.pagine_girate;
+    std::ranges::move(scena_.macchina.pagine.righe, std::back_inserter(girate));
     scena_.macchina.pagine = {};
     scena_.pagine_viste = false;
   }
@@ -150,6 +154,9 @@ void Giornata::controlla_fine() {
     finisce_male("nessun messaggio da controllare", Citato(In_Utf8(macchina.messaggi.front())));
   if (!macchina.risposte.empty())
     finisce_male("nessuna risposta rimasta in coda", std::to_string(macchina.risposte.size()));
+  if (macchina.ferma_fra > 0)
+    finisce_male("un lavoro da fermare con Esc", "altre " + std::to_string(macchina.ferma_fra) + " unità");
+  Tieni_Il_Resto(scena_);
   std::printf("ok  %s%s%s\n", nome_.c_str(), copione_.titolo.empty() ? "" : ": ", copione_.titolo.c_str());
   std::fflush(stdout);
   alarm(0);

@@ -20,8 +20,9 @@ class Giornata : public QObject {
  public:
   // `radice` is an empty folder of this day's own. `segna` is told the line of each step before it runs.
   // `album` takes the pictures, if any shall be taken; it must outlive the day.
+  // `resto`, if any, gets the firm's folder and the pages as they are at the end.
   Giornata(Copione copione, const Percorso& file, const Percorso& radice, std::function<void(int riga)> segna,
-           Album* album = nullptr);
+           Album* album = nullptr, const Percorso& resto = {});
 
   // Runs to the end in a fresh event loop: 0 passed, 1 failed and told on the standard output. Ends the
   // process at once where the program can't be left in an orderly way.

@@ -5,13 +5,15 @@
 
 #include "tests/runner/esecuzione.h"
 
-// velmara_giornata [--foto FOLDER] SCRIPT...: plays working days, each in a fresh copy of its firm's folder,
-// and puts the pictures that they take into that folder. The status is 1 when any of them failed.
+// velmara_giornata [--foto FOLDER | --tieni FOLDER] SCRIPT...: plays working days, each in a fresh copy of
+// its firm's folder. --foto puts the pictures that they take into that folder, --tieni what is left of the
+// firm's folder and all that was drawn, by the script's name. The status is 1 when any of them failed.
 int main(int argc, char** argv) {
   const bool con_foto = argc > 1 && std::strcmp(argv[1], "--foto") == 0;
-  const int primo = con_foto ? 3 : 1;
+  const bool tieni = argc > 1 && std::strcmp(argv[1], "--tieni") == 0;
+  const int primo = con_foto || tieni ? 3 : 1;
   if (argc <= primo) {
-    std::fprintf(stderr, "usage: velmara_giornata [--foto FOLDER] SCRIPT...\n");
+    std::fprintf(stderr, "usage: velmara_giornata [--foto FOLDER | --tieni FOLDER] SCRIPT...\n");
     return 1;
   }
   setenv("QT_QPA_PLATFORM", "offscreen", 0);
@@ -29,7 +31,8 @@ int main(int argc, char** argv) {
   int esito = 0;
   for (int i = primo; i < argc; ++i) {
     int uno = 1;  // the scripts are no arguments of the toolkit
-    if (giornata::Gioca_Copione(argv[i], uno, argv, album ? &*album : nullptr) != 0) esito = 1;
+    const Percorso resto = tieni ? std::filesystem::absolute(argv[2]) / Percorso(argv[i]).stem() : Percorso();
+    if (giornata::Gioca_Copione(argv[i], uno, argv, album ? &*album : nullptr, resto) != 0) esito = 1;
   }
   return esito;
 }

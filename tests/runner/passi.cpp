@@ -40,8 +40,10 @@ void Rispondi_Annulla(Scena& scena, const Argomenti&) {
   scena.macchina.risposte.push_back(Tasto_Risposta::Annulla);
 }
 void Rispondi(Scena& scena, const Argomenti& a) { scena.macchina.risposte.push_back(Da_Utf8(a[0].testo)); }
+void Esc_Dopo(Scena& scena, const Argomenti& a) { scena.macchina.ferma_fra = std::stoi(a[0].testo); }
 void Guasto_Fine(Scena& scena, const Argomenti&) { scena.guasti.clear(); }
 void Guasto_A(Scena& scena, const Argomenti& a) { scena.guasti.push_back(Nel_Disco(scena, a[0].testo)); }
+void Disco_Protetto(Scena& scena, const Argomenti&) { Proteggi_Ditta(scena); }
 void Stampante_Nessuna(Scena& scena, const Argomenti&) { scena.macchina.stampante.reset(); }
 void Stampante_Verticale(Scena& scena, const Argomenti& a) {
   scena.macchina.stampante = Stampante{Da_Utf8(a[0].testo), false};
@@ -282,6 +284,7 @@ constexpr Mossa mosse[] = {
     {"finestra <nome>", Controllo, Intero<Finestra_Si_Chiama>},
     {"scrivi <testo>", Gesto, Intero<Scrivi_Testo>},
     {"tasto <tasto>", Gesto, Intero<Tasto_Premuto>},
+    {"esc dopo <numero>", Preparazione, Intero<Esc_Dopo>},
     {"clic <controllo>", Gesto, Intero<Clic_Sinistro>},
     {"clic-destro <controllo>", Gesto, Intero<Clic_Destro>},
     {"doppio <controllo>", Gesto, Intero<Doppio>},
@@ -317,6 +320,7 @@ constexpr Mossa mosse[] = {
     {"pagine numero <numero>", Controllo, Intero<Pagine_Numero>},
     {"copia <accanto> <percorso>", Preparazione, Nella_Ditta<Copia>},
     {"cancella <percorso>", Preparazione, Nella_Ditta<Cancella>},
+    {"disco protetto", Preparazione, Nella_Ditta<Disco_Protetto>},
     {"guasto fine", Preparazione, Intero<Guasto_Fine>},
     {"guasto <percorso>", Preparazione, Nella_Ditta<Guasto_A>},
     {"stampante nessuna", Preparazione, Intero<Stampante_Nessuna>},

@@ -7,6 +7,10 @@
 #include "tests/runner/scena.h"
 
 // The steps of the script language, as one table: how each is written and what it does.
+//
+// A step is over before the next one begins, so that a key can't be pressed in the midst of a long work:
+// `esc dopo 3` says beforehand that in the works that follow the operator presses Esc when three units of
+// them (documents, accounts, pages ...) are done.
 namespace giornata {
 
 enum class Genere_Passo {

@@ -54,6 +54,11 @@ void Piattaforma_Copione::Ridipingi() {
   ultima_ridipintura_ = adesso;
 }
 
+bool Piattaforma_Copione::Vuole_Fermare() {
+  Ridipingi();
+  return ferma_fra > 0 && --ferma_fra == 0;
+}
+
 void Piattaforma_Copione::Attendi(double) { Mostra_Finestre(); }
 
 void Piattaforma_Copione::Occupato(bool) {}

@@ -32,6 +32,7 @@ class Piattaforma_Copione : public Piattaforma {
   Registratore dispositivo{stampante, pagine};
   Printer* carta = nullptr;  // real paper, in place of the recorder
   bool terminata = false;
+  int ferma_fra = 0;  // units of long works after which the operator presses Esc; 0: he doesn't
   // A question came for which no fitting answer stood in the queue. Doesn't return: a program that asks again
   // until it is content would never end.
   std::function<void(const std::string& atteso, const std::string& trovato)> senza_risposta;
@@ -40,6 +41,7 @@ class Piattaforma_Copione : public Piattaforma {
   bool Domanda(const Testo& testo, Icona icona, const Testo& titolo) override;
   std::optional<Testo> Chiedi(const Testo& testo, const Testo& titolo, const Testo& proposta) override;
   void Ridipingi() override;
+  bool Vuole_Fermare() override;
   void Attendi(double secondi) override;
   void Occupato(bool si) override;
   Data Oggi() override { return oggi; }

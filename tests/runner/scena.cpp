@@ -1,8 +1,12 @@
 #include "tests/runner/scena.h"
 
 #include <algorithm>
+#include <cstring>
 #include <fstream>
 #include <iterator>
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/statvfs.h>
 
 namespace giornata {
 
@@ -94,6 +98,14 @@ void Prepara_Ditta(Scena& scena, const Percorso* origine) {
   Copia_Tutto(cartella, scena.ditta);
 }
 
+void Tieni_Il_Resto(const Scena& scena) {
+  if (scena.resto.empty()) return;
+  Copia_Tutto(scena.ditta, scena.resto / "ditta");
+  std::ofstream pagine(scena.resto / "pagine", std::ios::binary);
+  for (const auto* righe : {&scena.pagine_girate, &scena.macchina.pagine.righe})
+    for (const Testo& riga : *righe) pagine << riga << '\n';
+}
+
 void Aggiungi_Volume(Scena& scena, const std::string& lettera, const std::string& etichetta,
                      const std::string& cartella) {
   const Percorso radice = scena.radice / cartella;
@@ -103,6 +115,20 @@ void Aggiungi_Volume(Scena& scena, const std::string& lettera, const std::string
   fs::create_directories(radice);
   std::erase_if(scena.macchina.volumi, [&](const Volume& v) { return In_Utf8(v.lettera) == lettera; });
   scena.macchina.volumi.push_back({radice, Da_Utf8(lettera), Da_Utf8(etichetta)});
+}
+
+void Proteggi_Ditta(const Scena& scena) {
+  const char* ditta = scena.ditta.c_str();
+  // What the disk forbids already must stay forbidden, or who isn't root may not mount it anew.
+  struct statvfs disco {};
+  statvfs(ditta, &disco);
+  const unsigned long divieti =
+      disco.f_flag & (MS_NOSUID | MS_NODEV | MS_NOEXEC | MS_NOATIME | MS_NODIRATIME);
+  const bool protetta =
+      unshare(CLONE_NEWNS) == 0 && mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+      mount(ditta, ditta, nullptr, MS_BIND, nullptr) == 0 &&
+      mount(nullptr, ditta, nullptr, MS_BIND | MS_REMOUNT | MS_RDONLY | divieti, nullptr) == 0;
+  if (!protetta) throw Fallito("un disco in sola lettura", std::strerror(errno));
 }
 
 bool Guasto(const Scena& scena, const Percorso& percorso) {

@@ -34,6 +34,8 @@ struct Scena {
   std::unique_ptr<Applicazione> applicazione;
   bool uscita = false;        // the operator is on his way out of the program
   bool pagine_viste = false;  // checked since the last gesture: the next gesture begins new pages
+  Percorso resto;             // where what is left at the end shall go: the firm's folder and all pages
+  std::vector<Testo> pagine_girate;  // lines of the pages before the present ones
 };
 
 // Where a script's path stands on the disk: in the firm's folder, or in that of a volume, whose paths begin
@@ -43,10 +45,15 @@ Percorso Accanto(const Scena& scena, const std::string& percorso);
 
 // Makes the firm's folder: a copy of `origine`, whose name it keeps, or an empty one.
 void Prepara_Ditta(Scena& scena, const Percorso* origine);
+// Puts the firm's folder and all that was drawn where they shall be kept.
+void Tieni_Il_Resto(const Scena& scena);
 void Aggiungi_Volume(Scena& scena, const std::string& lettera, const std::string& etichetta,
                      const std::string& cartella);
 void Copia_Tutto(const Percorso& da, const Percorso& a);  // a file, or a folder with all that is in it
 bool Guasto(const Scena& scena, const Percorso& percorso);
+// The firm's folder as on a write-protected disk, for this process alone and until it ends. Needs the right
+// to mount in a namespace of one's own; without it the step fails.
+void Proteggi_Ditta(const Scena& scena);
 
 std::string Citato(const std::string& testo);  // in quotes, with \n, \t, \" and \\ as the script writes them
 std::string Leggi_Byte(const Percorso& file);  // fails when it can't be read

@@ -7,6 +7,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "tests/core/cartella_temporanea.h"
+
 // The player as it is run: scripts in, status and printed lines out.
 namespace {
 
@@ -22,25 +24,20 @@ namespace fs = std::filesystem;
 class Banco {
  public:
   Banco() {
-    std::string modello = (fs::temp_directory_path() / "prove_runner.XXXXXX").string();
-    if (mkdtemp(modello.data())) cartella_ = modello;
     const fs::path prove = COPIONI_PROVA;
     fs::create_directory_symlink(prove / "copioni" / "ditta", cartella_ / "ditta");
     fs::create_directory_symlink(prove / "copioni" / "chiave", cartella_ / "chiave");
     fs::create_directory_symlink(prove / ".." / "giornate" / "ditte" / "base", cartella_ / "base");
   }
-  ~Banco() { fs::remove_all(cartella_); }
-  Banco(const Banco&) = delete;
-  Banco& operator=(const Banco&) = delete;
   std::string scrivi(const std::string& nome, const std::string& righe) const {
     const fs::path file = cartella_ / (nome + ".giornata");
     std::ofstream(file) << righe;
     return file.string();
   }
-  const fs::path& cartella() const { return cartella_; }
+  const fs::path& cartella() const { return cartella_.percorso; }
 
  private:
-  fs::path cartella_;
+  Cartella_Temporanea cartella_;
 };
 
 struct Esito {
@@ -116,6 +113,7 @@ INSTANTIATE_TEST_SUITE_P(
         Caso{"programma_spento", "clic Command1\nnessun-messaggio\n", 1, "il programma avviato"},
         Caso{"ditta_mancante", "ditta nessuna\nnessun-messaggio\n", 1, "la cartella "},
         Caso{"risposta_avanzata", "rispondi OK\nnessun-messaggio\n", 1, "nessuna risposta rimasta in coda"},
+        Caso{"esc_avanzato", "esc dopo 2\nnessun-messaggio\n", 1, "un lavoro da fermare con Esc"},
         Caso{"messaggio_mancante", "messaggio \"x\"\n", 1, "trovato: nessun messaggio"},
         Caso{"domanda_mancante", "domanda \"x\"\n", 1, "trovato: nessuna domanda"},
         Caso{"foto_senza_programma", "foto inizio\n", 1, "il programma avviato"},

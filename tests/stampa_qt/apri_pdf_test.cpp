@@ -46,6 +46,37 @@ TEST(Apri_PDF, IlVisoreDelDesktopMostraIlPDFFinito) {
   EXPECT_TRUE(std::filesystem::exists(visore.aperti.front().toStdString()));
 }
 
+// All documents of a day at once: nobody wants a viewer for each of them.
+TEST(Apri_PDF, DopoUnaCorsaInUnaVolta) {
+  const Ditta_Di_Prova ditta;
+  Stampante_Qt stampante(ditta.cartella.percorso);
+  Piattaforma_Qt macchina(stampante);
+  stampante.mostra = [&](const Percorso& file) { macchina.Mostra_Finito(file); };
+  stampante.Scegli("PDF", Verticale);
+  stampante.Apri_Alla_Fine = true;
+  struct Caso {
+    int documenti;
+    std::vector<std::string> aperti;
+  };
+  const Caso casi[] = {{2, {"20250314 Fattura 1.pdf", "20250314 Fattura 2.pdf"}}, {40, {"Stampe"}}};
+  for (const Caso& caso : casi) {
+    std::filesystem::remove_all(ditta.cartella / "Stampe");
+    Visore visore;
+    macchina.Occupato(true);
+    for (int i = 1; i <= caso.documenti; ++i) {
+      stampante.documento = {"20250314", "Fattura", std::to_string(i), ""};
+      stampante.Print("totale");
+      stampante.EndDoc();
+    }
+    EXPECT_TRUE(visore.aperti.isEmpty());
+    macchina.Occupato(false);
+    std::vector<std::string> aperti;
+    for (const QString& aperto : visore.aperti)
+      aperti.push_back(std::filesystem::path(aperto.toStdString()).filename().string());
+    EXPECT_EQ(aperti, caso.aperti);
+  }
+}
+
 }  // namespace
 
 #include "apri_pdf_test.moc"

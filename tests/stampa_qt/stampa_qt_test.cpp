@@ -12,6 +12,7 @@
 #include <QRawFont>
 #include <QRegularExpression>
 
+#include "platform/interruzione.h"
 #include "platform/piattaforma_qt.h"
 #include "platform/testo_qt.h"
 #include "printing/nomi_stampe.h"
@@ -330,6 +331,63 @@ TEST_F(Stampa_Qt, DopoUnLavoroLungoITastiPremutiSiButtano) {
   };
   EXPECT_EQ(lavora(0.4), "");
   EXPECT_EQ(lavora(0.05), "7");
+}
+
+struct Tasti_In_Lavoro : Stampa_Qt {
+  void Premi(int tasto, const QString& testo = {}, bool tenuto = false) {
+    QCoreApplication::postEvent(&campo,
+                                new QKeyEvent(QEvent::KeyPress, tasto, Qt::NoModifier, testo, tenuto));
+  }
+  QLineEdit campo;
+};
+
+// What else was keyed is dropped; a key held down is none; the same one doesn't stop the next work.
+TEST_F(Tasti_In_Lavoro, EscSiRicordaEGliAltriCadono) {
+  Premi(Qt::Key_8, "8");
+  EXPECT_FALSE(Esc_Premuto());
+  Premi(Qt::Key_Escape, {}, true);
+  EXPECT_FALSE(Esc_Premuto());
+  Premi(Qt::Key_Escape);
+  Premi(Qt::Key_9, "9");
+  EXPECT_TRUE(Esc_Premuto());
+  EXPECT_FALSE(Esc_Premuto());
+  EXPECT_EQ(campo.text(), "");
+}
+
+// A short work keeps the Esc of who types ahead for the screen behind it.
+TEST_F(Tasti_In_Lavoro, EscFermaSoloUnLavoroLungo) {
+  Piattaforma_Qt macchina(stampante);
+  // repainting, which is done now and then, lets a posted key through; not so one of the keyboard
+  const auto fermato = [&] {
+    bool si = false;
+    for (int volta = 0; volta < 20 && !si; ++volta) {
+      macchina.Ridipingi();
+      Premi(Qt::Key_Escape);
+      si = macchina.Vuole_Fermare();
+    }
+    return si;
+  };
+  macchina.Occupato(true);
+  EXPECT_FALSE(macchina.Vuole_Fermare());
+  macchina.Attendi(0.4);
+  EXPECT_TRUE(fermato());
+  macchina.Occupato(false);
+  macchina.Occupato(true);
+  Premi(Qt::Key_Escape);
+  EXPECT_FALSE(macchina.Vuole_Fermare());
+  macchina.Occupato(false);
+}
+
+TEST_F(Stampa_Qt, UnPDFAbbandonatoNonSiScrive) {
+  stampante.documento = {"20250314", "Liste", "", ""};
+  stampante.Print("prima pagina");
+  stampante.NewPage();
+  EXPECT_TRUE(stampante.Abbandona());
+  EXPECT_TRUE(stampante.Ultimo_PDF().empty());
+  EXPECT_TRUE(stampante.disco.Elenca(ditta.cartella / "Stampe", "*").value().empty());
+  stampante.Print("intera");
+  EXPECT_TRUE(stampante.EndDoc());
+  EXPECT_EQ(stampante.disco.Elenca(ditta.cartella / "Stampe", "*").value().size(), 1U);
 }
 
 // Of a run only the first lost document is told; the operator who tries that one again hears of it again.

@@ -424,6 +424,16 @@ TEST_F(Avvio, Annulla_tiene_le_liste_e_dal_3_marzo_2020_non_si_chiede_piu) {
   }
 }
 
+// What the trial of writing would have destroyed, and the program would have said that it can't save.
+TEST_F(Avvio, La_prova_di_scrittura_non_passa_per_un_collegamento) {
+  Ditta_Completa();
+  Scrivi("../fuori.txt", "d'altri");
+  std::filesystem::create_symlink("../fuori.txt", cartella / ".velmara_scrittura");
+  EXPECT_EQ(Avvia_Ditta()->esito, EsitoAvvio::Pronto);
+  EXPECT_THAT(macchina.messaggi, IsEmpty());
+  EXPECT_EQ(Contenuto("../fuori.txt"), "d'altri");
+}
+
 // ---- one program for one folder
 
 TEST_F(Avvio, Un_secondo_programma_nella_stessa_cartella_non_parte) {

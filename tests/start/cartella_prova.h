@@ -4,25 +4,15 @@
 #include <gtest/gtest.h>
 #include <iterator>
 #include <set>
-#include <stdlib.h>
 
 #include "core/programma.h"
+#include "tests/core/cartella_temporanea.h"
 #include "tests/piattaforma_finta.h"
 
 // A firm's folder for one test, with the machine and the program that work on it.
 class Cartella_Prova : public testing::Test {
  protected:
-  Cartella_Prova() {
-    std::string modello = (std::filesystem::temp_directory_path() / "velmara_XXXXXX").string();
-    if (mkdtemp(modello.data()) == nullptr) throw std::runtime_error("mkdtemp");
-    base = modello;
-    cartella = base / "ditta";
-    std::filesystem::create_directory(cartella);
-  }
-  ~Cartella_Prova() override {
-    std::error_code errore;
-    std::filesystem::remove_all(base, errore);
-  }
+  Cartella_Prova() { std::filesystem::create_directory(cartella); }
 
   void Scrivi(const std::string& nome, const Testo& contenuto) const {
     const Percorso file = cartella / nome;
@@ -42,6 +32,7 @@ class Cartella_Prova : public testing::Test {
     return nomi;
   }
 
-  Percorso base, cartella;
+  Cartella_Temporanea temporanea;
+  Percorso base = temporanea.percorso, cartella = base / "ditta";
   Piattaforma_Finta macchina;
 };

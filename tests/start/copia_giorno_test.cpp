@@ -191,6 +191,44 @@ TEST_F(Copia_Del_Giorno, Un_file_della_ditta_stessa_porta_solo_al_suo_giorno) {
   EXPECT_EQ(inizio.Text1.testo, "12");
 }
 
+// What isn't a file after all: a folder of that name, a link to nothing, one that has gone meanwhile.
+TEST_F(Copia_Del_Giorno, Quello_che_non_e_un_file_si_dice_e_non_lascia_nulla) {
+  const Percorso nulla = chiavetta / "20250311.txt";
+  std::filesystem::create_directories(chiavetta / "20250312.txt");
+  std::filesystem::create_symlink(chiavetta / "sparito", nulla);
+  for (const char* nome : {"20250311.txt", "20250312.txt", "20250313.txt"}) {
+    macchina.messaggi.clear();
+    macchina.risposte = {true};
+    EXPECT_TRUE(CopiaFileGiorno(programma, inizio, chiavetta / nome));
+    EXPECT_THAT(macchina.messaggi,
+                ElementsAre("il file\n" + Testo_Percorso(chiavetta / nome) + "\nnon è stato trovato"_t));
+    EXPECT_EQ(Letto(cartella / "2025" / nome), "(manca)");
+  }
+  EXPECT_EQ(inizio.Text1.testo, "14");
+}
+
+// A link is what it leads to, under its own name; also one that leads to the day itself.
+TEST_F(Copia_Del_Giorno, Un_collegamento_porta_quello_a_cui_conduce) {
+  Metti(base / "copia di ieri.bak", "righe");
+  Metti(qui, "oggi");
+  std::filesystem::create_symlink(base / "copia di ieri.bak", chiavetta / "20250313.txt");
+  std::filesystem::create_symlink(qui, chiavetta / "20250314.txt");
+  macchina.risposte = {true};
+  CopiaFileGiorno(programma, inizio, chiavetta / "20250313.txt");
+  EXPECT_EQ(Letto(cartella / "2025/20250313.txt"), "righe");
+  EXPECT_FALSE(std::filesystem::is_symlink(cartella / "2025/20250313.txt"));
+  macchina.risposte = {true, true};
+  CopiaFileGiorno(programma, inizio, chiavetta / "20250314.txt");
+  EXPECT_EQ(Letto(qui), "oggi");
+}
+
+TEST_F(Copia_Del_Giorno, Annulla_vale_anche_per_gli_altri_file_lasciati_insieme) {
+  Metti(chiavetta / "20250312.txt", "righe");
+  macchina.risposte = {false};
+  EXPECT_FALSE(CopiaFileGiorno(programma, inizio, chiavetta / "20250312.txt"));
+  EXPECT_TRUE(CopiaFileGiorno(programma, inizio, chiavetta / "lettera.txt"));
+}
+
 TEST_F(Copia_Del_Giorno, Un_file_trascinato_su_un_disco_pieno_lascia_il_vecchio) {
   Metti(qui, "vecchie");
   Metti(chiavetta / "20250314.txt", "nuove");

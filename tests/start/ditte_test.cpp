@@ -20,9 +20,13 @@ TEST_F(Ditte_Prova, SonoLeCartelleConIlProgrammaOLIntestazione) {
   cartella.Metti("Velmara/anna/_2020_ragione.txt", "x");
   cartella.Metti("Velmara/foto/mare.jpg", "x");
   cartella.Metti("Velmara/Velmara_2020", "x");
-  EXPECT_THAT(Ditte_In(disco, cartella / "Velmara"),
+  EXPECT_THAT(Ditte_In(disco, cartella / "Velmara").value(),
               ElementsAre(cartella / "Velmara/anna", cartella / "Velmara/Mario"));
-  EXPECT_THAT(Ditte_In(disco, cartella / "manca"), IsEmpty());
+  EXPECT_THAT(Ditte_In(disco, cartella / "manca").value(), IsEmpty());
+  std::filesystem::create_directory_symlink("giro", cartella / "giro");
+  int errore = 0;
+  EXPECT_FALSE(Ditte_In(disco, cartella / "giro", &errore).has_value());
+  EXPECT_EQ(errore, ELOOP);
 }
 
 TEST_F(Ditte_Prova, IlNomeDiUnaDittaEUnNomeDiCartella) {

@@ -44,6 +44,27 @@ TEST_F(Giorni_Recenti_Test, Un_giorno_con_la_copia_dat_conta_una_volta) {
   EXPECT_THAT(Giorni_Recenti(programma, 7), ElementsAre(Data{2025, 3, 12}, Data{2025, 3, 11}));
 }
 
+// A list without a word would say that there are no other days.
+TEST_F(Giorni_Recenti_Test, Una_cartella_che_non_si_legge_sta_nella_lista) {
+  Scrivi("2024/20241231.txt", "riga\r\n");
+  Carica_Inizio(programma, inizio);
+  EXPECT_EQ(inizio.Recenti.Numero(), 1U);
+  std::filesystem::create_directory(cartella / "2025");
+  std::filesystem::create_directory_symlink("2023", cartella / "2023");
+  Ritorna_Inizio(programma, inizio);
+  EXPECT_EQ(inizio.Recenti.Numero(), 1U) << "a link to nowhere is no folder";
+  programma.Cartella_Dati = cartella / "2023";
+  Ritorna_Inizio(programma, inizio);
+  ASSERT_EQ(inizio.Recenti.Numero(), 1U);
+  EXPECT_EQ(inizio.Recenti.Riga(0), "(una cartella non si legge)");
+  const Testo giorno = inizio.Text1.testo;
+  inizio.Recenti.scelta = 0;
+  Scelto_Recente(programma, inizio);
+  EXPECT_EQ(inizio.Text1.testo, giorno);
+  EXPECT_EQ(inizio.Recenti.scelta, -1);
+  EXPECT_FALSE(Vai_Ai_Recenti(programma, inizio));
+}
+
 TEST_F(Giorni_Recenti_Test, Il_giorno_nel_nome_di_un_file) {
   EXPECT_EQ(Giorno_Nel_Nome("20250314.txt"), (Data{2025, 3, 14}));
   EXPECT_EQ(Giorno_Nel_Nome("20250314.TXT"), (Data{2025, 3, 14}));

@@ -177,6 +177,16 @@ TEST_F(Strumenti, ConvertiDati_lancia_il_comando_della_prima_riga) {
   EXPECT_EQ(macchina.programmi.back(), "Altro.exe");
 }
 
+TEST_F(Strumenti, ConvertiDati_senza_la_marca_di_un_editor) {
+  Scrivi("ProgDati.txt",
+         "\xEF\xBB\xBF"
+         "Altro.exe\r\n");
+  Scrivi("Altro.exe", "x");
+  macchina.risposte = {true};
+  ConvertiDati(programma);
+  EXPECT_THAT(macchina.programmi, ElementsAre("Altro.exe"));
+}
+
 TEST_F(Strumenti, ConvertiDati_che_manca_o_annullato_non_chiude_nulla) {
   macchina.risposte = {false, true};
   ConvertiDati(programma);

@@ -44,6 +44,13 @@ TEST_F(Ultimi_Numeri, Senza_cartella_o_senza_giorni_e_zero) {
   EXPECT_EQ(programma.Ultima_Fattura, 3);
 }
 
+// 0 would let the year's accounts begin at 1 a second time.
+TEST_F(Ultimi_Numeri, Una_cartella_che_non_si_legge_lascia_i_numeri) {
+  Numeri(57, 1, 2, 3);
+  std::filesystem::create_directory_symlink("2025", cartella / "2025");
+  EXPECT_EQ(Trova(), "57");
+}
+
 TEST_F(Ultimi_Numeri, Il_conto_piu_alto_dell_ultimo_giorno) {
   struct Caso {
     std::vector<Testo> ncv;

@@ -51,6 +51,16 @@ struct Controllo_Dei_Conti : Stampa_Di_Prova {
   ControlloCV schermo;
 };
 
+TEST_F(Controllo_Dei_Conti, UnaCartellaCheNonSiLeggeSiDice) {
+  std::filesystem::create_directories(cartella / "2025");
+  std::filesystem::create_directory_symlink("CV_NO", cartella / "2025/CV_NO");
+  Leggi();
+  EXPECT_THAT(macchina.messaggi,
+              ElementsAre("Errore 40 durante la lettura\n" + Testo_Percorso(cartella / "2025/CV_NO") + "\n" +
+                          Testo_Errore(40)));
+  EXPECT_TRUE(schermo.attiva);
+}
+
 TEST_F(Controllo_Dei_Conti, AllAperturaQuestAnnoEQuestoMese) {
   EXPECT_EQ(schermo.Text1.testo, "2025");
   EXPECT_EQ(schermo.Combo1.Numero(), 13U);

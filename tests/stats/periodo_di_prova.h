@@ -8,10 +8,7 @@
 // A firm with days of 2025, the recorder for a printer.
 struct Periodo_Di_Prova : Stampa_Di_Prova {
   Periodo_Di_Prova() {
-    programma.Anno_Lavoro = "2025";
-    programma.Cartella_Anno = cartella / "2025";
-    programma.Data_AAAAMMGG = "20250314";
-    programma.Data_Giorno = "14/03/2025";
+    Ditta_Di_Prova::Apri_Giorno();
     programma.Vet_Tabella.righe = {Riga_Segnaposto()};
   }
 

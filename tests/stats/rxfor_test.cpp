@@ -79,6 +79,16 @@ TEST_F(SaldoFornitori, SenzaOpzioniNonSiCalcola) {
   EXPECT_THAT(macchina.messaggi, ElementsAre("Scegliere le opzioni (fornitori o specie e fornitori..."));
 }
 
+// "Nothing to do" would be untrue: the days may all be there.
+TEST_F(SaldoFornitori, UnAnnoCheNonSiLeggeSiDice) {
+  programma.Anno_Lavoro = "2024";
+  programma.Cartella_Anno = cartella / "2024";
+  std::filesystem::create_directory_symlink("2024", cartella / "2024");
+  EXPECT_THAT(Calcola("20240310", "20240312", Per_Fornitore), IsEmpty());
+  EXPECT_THAT(macchina.messaggi, ElementsAre("Errore 40 durante la lettura\n" +
+                                             Testo_Percorso(cartella / "2024") + "\n" + Testo_Errore(40)));
+}
+
 TEST_F(SaldoFornitori, DateCheNonVanno) {
   const Testo forma = "Sistemare le date nel formato aaaammgg", anno = "deve essere lo stesso anno";
   struct Caso {
@@ -221,21 +231,21 @@ TEST_F(SaldoFornitori, ColDiscoPienoITotaliCiSonoESiDice) {
 TEST_F(SaldoFornitori, EscFermaENonLasciaNulla) {
   Calcola_OK("20250310", "20250312", Per_Fornitore);
   macchina.messaggi.clear();
-  schermo.fermata = [] { return true; };
+  macchina.unita = 0;
+  macchina.ferma_dopo = 1;
   EXPECT_THAT(Calcola_OK("20250310", "20250312", Per_Fornitore), IsEmpty());
   EXPECT_EQ(schermo.Avanzamento.testo, "calcolo interrotto");
   EXPECT_THAT(macchina.messaggi, IsEmpty());
   EXPECT_EQ(cartella.Contenuto("zzzztemp.txt"), "(manca)");
   EXPECT_FALSE(schermo.Stampa.attivo || schermo.Salva.attivo);
-  schermo.fermata = {};
+  macchina.ferma_dopo.reset();
   EXPECT_EQ(Calcola_OK("20250310", "20250312", Per_Fornitore).size(), 2U);
 }
 
 TEST_F(SaldoFornitori, UnSoloCalcoloAllaVolta) {
-  schermo.fermata = [this] {
+  macchina.fra_le_unita = [this] {
     EXPECT_FALSE(schermo.Command4.attivo);
     Calcola_Saldo(programma, schermo);  // would ask a second question
-    return false;
   };
   EXPECT_EQ(Calcola_OK("20250310", "20250312", Per_Fornitore).size(), 2U);
   EXPECT_EQ(macchina.domande.size(), 1U);

@@ -15,7 +15,8 @@ using testing::IsEmpty;
 struct Scansioni : Periodo_Di_Prova {
   std::vector<Testo> Nomi() const {
     std::vector<Testo> nomi;
-    for (const Percorso& nome : File_Dell_Anno(programma)) nomi.push_back(Testo_Percorso(nome));
+    for (const Percorso& nome : File_Dell_Anno(programma).value_or(std::vector<Percorso>()))
+      nomi.push_back(Testo_Percorso(nome));
     return nomi;
   }
 
@@ -167,15 +168,14 @@ TEST_F(Scansioni, LeggiPeriodoDiceOgniFileESiFerma) {
   Scritta avanzamento;
   std::vector<Testo> visti;
   Scansione intera(programma, {});
-  EXPECT_TRUE(Leggi_Periodo(programma, intera, nomi, avanzamento, [&] {
-    visti.push_back(avanzamento.testo);
-    return false;
-  }));
+  macchina.fra_le_unita = [&] { visti.push_back(avanzamento.testo); };
+  EXPECT_TRUE(Leggi_Periodo(programma, intera, nomi, avanzamento));
   EXPECT_THAT(visti, ElementsAre("20250310.txt letto", "20250311.txt letto", "20250312.txt letto"));
   EXPECT_EQ(intera.Righe(), 3);
-  EXPECT_EQ(macchina.ridipinture, 3);
   Scansione fermata(programma, {});
-  EXPECT_FALSE(Leggi_Periodo(programma, fermata, nomi, avanzamento, [&] { return fermata.Righe() == 2; }));
+  macchina.unita = 0;
+  macchina.ferma_dopo = 2;
+  EXPECT_FALSE(Leggi_Periodo(programma, fermata, nomi, avanzamento));
   EXPECT_EQ(fermata.Righe(), 2);
 }
 
@@ -189,7 +189,7 @@ TEST_P(AnnoIntero, ISaldiSonoQuelliDiAwk) {
   programma.Separatore_Decimale = separatore;
   Scansione scansione(programma, {.per_specie = true});
   Scritta avanzamento;
-  ASSERT_TRUE(Leggi_Periodo(programma, scansione, File_Dell_Anno(programma), avanzamento, {}));
+  ASSERT_TRUE(Leggi_Periodo(programma, scansione, File_Dell_Anno(programma).value(), avanzamento));
   ASSERT_EQ(scansione.Righe(), 6000);
   std::map<Testo, Testo> nostri;
   for (const Totale& totale : scansione.Prendi_Totali())

@@ -41,6 +41,19 @@ TEST_F(StatisticaDelPeriodo, SenzaGiorniNonSiApre) {
   EXPECT_THAT(macchina.messaggi, ElementsAre(" non ci sono dati...nulla da fare"));
 }
 
+TEST_F(StatisticaDelPeriodo, UnAnnoCheNonSiLeggeSiDiceENonDaTotali) {
+  const Testo errore =
+      "Errore 40 durante la lettura\n" + Testo_Percorso(cartella / "2025") + "\n" + Testo_Errore(40);
+  Applica("20250103", "20251231");
+  std::filesystem::rename(cartella / "2025", cartella / "altrove");
+  std::filesystem::create_directory_symlink("2025", cartella / "2025");
+  EXPECT_THAT(Applica("20250103", "20251231"), IsEmpty());
+  EXPECT_THAT(macchina.messaggi, ElementsAre(errore));
+  EXPECT_EQ(schermo.Avviso.testo, "la cartella dell'anno non si legge");
+  EXPECT_FALSE(Apri_Statistica2(programma, schermo));
+  EXPECT_THAT(macchina.messaggi, ElementsAre(errore, errore));
+}
+
 TEST_F(StatisticaDelPeriodo, UnaLineaPerFornitore) {
   EXPECT_THAT(Applica("20250103", "20251231"),
               ElementsAre("Laguna                                   =  -4 \x80",
@@ -85,7 +98,8 @@ TEST_F(StatisticaDelPeriodo, NumeriIllegibiliSiDicono) {
 
 TEST_F(StatisticaDelPeriodo, EscLasciaLaListaVuota) {
   Applica("20250103", "20251231");
-  schermo.fermata = [] { return true; };
+  macchina.unita = 0;
+  macchina.ferma_dopo = 1;
   EXPECT_THAT(Applica("20250103", "20251231"), IsEmpty());
   EXPECT_EQ(schermo.Avanzamento.testo, "calcolo interrotto");
   EXPECT_TRUE(schermo.attiva);

@@ -1,5 +1,6 @@
 #include "transfers/sceltafile.h"
 
+#include <cerrno>
 #include <gmock/gmock.h>
 
 #include "tests/core/ditta_di_prova.h"
@@ -104,6 +105,16 @@ TEST_F(SceltaFile_Test, LaChiavettaToltaRiportaAllaDitta) {
   Aggiorna_SceltaFile(programma, schermo);
   EXPECT_EQ(schermo.cartella, programma.Cartella_Dati);
   EXPECT_EQ(schermo.Drive1.scelta, 0);
+}
+
+// An empty list would say that no file stands there.
+TEST_F(SceltaFile_Test, UnaCartellaCheNonSiLeggeSiVede) {
+  std::filesystem::create_directory_symlink("giro", cartella / "giro");
+  programma.Cartella_Dati = cartella / "giro";
+  Apri_SceltaFile(programma, schermo);
+  EXPECT_THAT(Righe(schermo.File1), IsEmpty());
+  EXPECT_EQ(schermo.Cartella.testo,
+            Testo_Percorso(cartella / "giro") + " - non si legge: " + Testo_Errore(ELOOP));
 }
 
 TEST_F(SceltaFile_Test, Annulla) {

@@ -3,15 +3,12 @@
 #include <QAction>
 #include <QBoxLayout>
 #include <QComboBox>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
 #include <QMenuBar>
 #include <QPushButton>
 
 #include "platform/aspetto.h"
-#include "platform/tasti_qt.h"
-#include "platform/testo_qt.h"
 #include "transfers/screens/senza_proposta.h"
 
 namespace {
@@ -29,38 +26,28 @@ QListView* Fa_Lista(const QString& nome) {
 }  // namespace
 
 SceltaFileFinestra::SceltaFileFinestra(Programma& programma, Vista nome, QWidget* padre)
-    : Finestra(QStringLiteral("SceltaFile"), padre, Qt::Window),
-      programma_(programma),
-      cartelle_(Fa_Lista(QStringLiteral("Cartelle"))),
-      nome_(new CasellaTesto) {
+    : FinestraDavanti(QStringLiteral("SceltaFile"), padre, Qt::Window), programma_(programma) {
   Apri_SceltaFile(programma_, schermo_, nome);
-  setWindowTitle(In_QString(schermo_.titolo));
+  intitola(schermo_.titolo);
+  si_chiude(schermo_.chiusa, [this] { Annulla_File(schermo_); });
   setFont(Carattere(punti_normali));
 
   auto* barra = new QMenuBar;
-  legame.lega(barra->addAction(QString()), QStringLiteral("MenuAggiorna"), schermo_.MenuAggiorna,
-              [this] { Aggiorna_SceltaFile(programma_, schermo_); });
+  fa_voce(barra, QStringLiteral("MenuAggiorna"), schermo_.MenuAggiorna,
+          [this] { Aggiorna_SceltaFile(programma_, schermo_); });
 
-  auto* dischi = new QComboBox;
-  dischi->setFont(Carattere(punti_normali));
-  dischi->setAccessibleName(QStringLiteral("Dischi"));
-  legame.lega(dischi, QStringLiteral("Drive1"), schermo_.Drive1,
-              [this] { Cambia_Disco(programma_, schermo_); });
-  auto* cartella = new QLabel;
+  auto* dischi = fa_tendina(QStringLiteral("Drive1"), QStringLiteral("Dischi"), schermo_.Drive1,
+                            [this] { Cambia_Disco(programma_, schermo_); });
+  auto* cartella = fa_scritta(QStringLiteral("Cartella"), schermo_.Cartella);
   cartella->setFont(Carattere(punti_normali, true));
-  cartella->setTextFormat(Qt::PlainText);
   cartella->setWordWrap(true);
-  legame.lega(cartella, QStringLiteral("Cartella"), schermo_.Cartella);
 
-  auto* didascalia = new QLabel;
-  legame.lega(didascalia, QStringLiteral("Caption_Text1"), schermo_.Caption_Text1);
-  nome_->setFont(Carattere(punti_grandi));
-  nome_->setAccessibleName(In_QString(schermo_.Caption_Text1.testo));
-  nome_->installEventFilter(this);
-  legame.lega(nome_, QStringLiteral("Text1"), schermo_.Text1);
+  auto* campo = fa_campo(QStringLiteral("Text1"), schermo_.Text1, schermo_.Caption_Text1);
+  campo->setFont(Carattere(punti_grandi));
+  legame.invio(campo, [this] { Conferma_File(programma_, schermo_); });
   auto* riga_nome = new QHBoxLayout;
-  riga_nome->addWidget(didascalia);
-  riga_nome->addWidget(nome_, 1);
+  riga_nome->addWidget(fa_scritta(QStringLiteral("Caption_Text1"), schermo_.Caption_Text1));
+  riga_nome->addWidget(campo, 1);
 
   auto* corpo = new QVBoxLayout;
   corpo->setContentsMargins(18, 14, 18, 14);
@@ -70,25 +57,21 @@ SceltaFileFinestra::SceltaFileFinestra(Programma& programma, Vista nome, QWidget
   corpo->addLayout(fa_liste(), 1);
   corpo->addLayout(riga_nome);
   corpo->addLayout(fa_comandi());
-  auto* tutto = new QVBoxLayout(this);
-  tutto->setContentsMargins(0, 0, 0, 0);
-  tutto->setMenuBar(barra);
-  tutto->addLayout(corpo);
+  disponi(barra, corpo);
   mostra();
-  nome_->setFocus(Qt::OtherFocusReason);
-  nome_->selectAll();
+  campo->setFocus(Qt::OtherFocusReason);
+  campo->selectAll();
 }
 
 QBoxLayout* SceltaFileFinestra::fa_liste() {
-  cartelle_->installEventFilter(this);
-  legame.lega(cartelle_, QStringLiteral("Dir1"), schermo_.Dir1);
-  connect(cartelle_, &QListView::doubleClicked, this,
-          [this] { legame.esegui([this] { Entra_Cartella(programma_, schermo_); }); });
+  QListView* cartelle = Fa_Lista(QStringLiteral("Cartelle"));
+  legame.scelta(cartelle, [this] { Entra_Cartella(programma_, schermo_); });
+  legame.lega(cartelle, QStringLiteral("Dir1"), schermo_.Dir1);
   QListView* file = Fa_Lista(QStringLiteral("File"));
   legame.lega(file, QStringLiteral("File1"), schermo_.File1, [this] { Prendi_Nome(schermo_); });
   auto* liste = new QHBoxLayout;
   liste->setSpacing(12);
-  liste->addWidget(cartelle_, 1);
+  liste->addWidget(cartelle, 1);
   liste->addWidget(file, 1);
   return liste;
 }
@@ -96,44 +79,11 @@ QBoxLayout* SceltaFileFinestra::fa_liste() {
 QBoxLayout* SceltaFileFinestra::fa_comandi() {
   auto* comandi = new QHBoxLayout;
   comandi->addStretch();
-  const auto bottone = [&](const char* nome, Bottone& stato, Legame::Evento evento) {
-    auto* fatto = new QPushButton;
-    fatto->setFont(Carattere(punti_normali));
-    fatto->setAutoDefault(true);
-    fatto->setMinimumHeight(fatto->fontMetrics().height() * 2);
-    legame.lega(fatto, QString::fromUtf8(nome), stato, std::move(evento));
-    comandi->addWidget(fatto);
-  };
-  bottone("Command1", schermo_.Command1, [this] { Conferma_File(programma_, schermo_); });
-  bottone("Command2", schermo_.Command2, [this] { Annulla_File(schermo_); });
+  comandi->addWidget(fa_bottone(QStringLiteral("Command1"), schermo_.Command1,
+                                [this] { Conferma_File(programma_, schermo_); }));
+  comandi->addWidget(
+      fa_bottone(QStringLiteral("Command2"), schermo_.Command2, [this] { Annulla_File(schermo_); }));
   return comandi;
-}
-
-void SceltaFileFinestra::mostra() {
-  Finestra::mostra();
-  if (schermo_.chiusa && isVisible()) QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
-}
-
-// Enter in the folders goes into the selected one, in the name it confirms.
-bool SceltaFileFinestra::eventFilter(QObject* oggetto, QEvent* evento) {
-  if (evento->type() != QEvent::KeyPress) return Finestra::eventFilter(oggetto, evento);
-  const Pressione pressione = Da_QKeyEvent(*static_cast<QKeyEvent*>(evento));
-  if (pressione.tasto != Tasto::Invio || !pressione.Nudo()) return Finestra::eventFilter(oggetto, evento);
-  legame.esegui([&] {
-    if (oggetto == cartelle_)
-      Entra_Cartella(programma_, schermo_);
-    else
-      Conferma_File(programma_, schermo_);
-  });
-  return true;
-}
-
-void SceltaFileFinestra::keyPressEvent(QKeyEvent* evento) {
-  const Pressione pressione = Da_QKeyEvent(*evento);
-  if (pressione.tasto == Tasto::Esc && pressione.Nudo())
-    legame.esegui([this] { Annulla_File(schermo_); });
-  else
-    Finestra::keyPressEvent(evento);
 }
 
 Scelta_File Chiedi_File(Programma& programma, QWidget* padre, Vista nome) {

@@ -3,27 +3,19 @@
 #include "platform/finestra.h"
 #include "transfers/xdisk.h"
 
-class QListView;
-
 // On which drive, `xdisk`. Enter or a double click in the list takes the drive.
-class XdiskFinestra : public Finestra {
+class XdiskFinestra : public FinestraDavanti {
   Q_OBJECT
 
  public:
   XdiskFinestra(const Programma& programma, ModoCopia modo, const Percorso& cartella_propria,
                 QWidget* padre = nullptr);
 
-  void mostra() override;
   const std::optional<DriveScelto>& scelto() const { return xdisk_.scelto; }
-
- protected:
-  bool eventFilter(QObject* oggetto, QEvent* evento) override;
-  void keyPressEvent(QKeyEvent* evento) override;
 
  private:
   const Programma& programma_;
   Xdisk xdisk_;
-  QListView* lista_;
 };
 
 // Asks in front of `padre` until the operator has chosen or cancelled; what rooms are given for asking.

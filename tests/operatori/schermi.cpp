@@ -1,0 +1,60 @@
+#include "tests/operatori/schermi.h"
+
+namespace operatori {
+
+std::span<const Schermo> Schermi() {
+  static const std::vector<Schermo> schermi = {
+      {"PrimoAvvio", "PrimoAvvioFinestra", {}, "", true},
+      {"Ditte", "DitteFinestra", {}, "", true},
+      {"B_Inizio", "B_InizioFinestra", {}, "", true},
+      {"xdisk", "XdiskFinestra", {"clic Command7"}, "", true},
+      {"Edita", "EditaFinestra", {}},
+      {"Albero", "AlberoFinestra", {"clic ListaVoci"}},
+      {"NotaAcc", "NotaAccFinestra", {"metti Text1(6) 1", "fuoco Text1(7)", "scrivi -"}},
+      {"Clienti", "AnagraficaFinestra", {"destro Text1(2)"}},
+      {"ModCLI", "ModuloFinestra", {"destro Text1(2)", "clic AggiungiModifica"}},
+      {"Fornitori", "AnagraficaFinestra", {"destro Text1(1)"}},
+      {"ModFOR", "ModuloFinestra", {"destro Text1(1)", "clic AggiungiModifica"}},
+      {"Descrizioni", "AnagraficaFinestra", {"destro Text1(4)"}},
+      {"ModDescr", "ModuloFinestra", {"destro Text1(4)", "clic AggiungiModifica"}},
+      {"ModDescrLista",
+       "UfficialiFinestra",
+       {"destro Text1(4)", "clic AggiungiModifica", "clic Lista_Ufficiale"}},
+      {"MetodoPesca", "AnagraficaFinestra", {"destro Text1(25)"}},
+      {"ModMetodo", "ModuloFinestra", {"destro Text1(27)", "clic AggiungiModifica"}},
+      {"Zone", "AnagraficaFinestra", {"destro Text1(5)"}},
+      {"ModZona", "ModuloFinestra", {"destro Text1(5)", "clic AggiungiModifica"}},
+      {"Provenienze", "AnagraficaFinestra", {"destro Text1(17)"}},
+      {"ModProv", "ModuloFinestra", {"destro Text1(17)", "clic AggiungiModifica"}},
+      {"AnagraficaVettori", "AnagraficaFinestra", {"menu File|Vettori"}},
+      {"ModVETTORI", "ModuloFinestra", {"menu File|Vettori", "clic AggiungiModifica"}},
+      {"Esclusi", "EsclusiFinestra", {"clic Esclusi"}, "CodiceCOM=Lagomar\r\n"},
+      {"Mappa", "MappaFinestra", {"tasto F1"}},
+      {"MappaMondo", "MappaFinestra", {"tasto F11"}},
+      {"Mappa27", "MappaFinestra", {"tasto F11", "clic Label1(27)"}},
+      {"frmStampaFCPB", "StampaImmagineFinestra", {"menu File|Stampa Schermo"}},
+      {"DescPre", "ElencoMacroFinestra", {"menu PrefSpecie"}},
+      {"DescPreFOR", "ElencoMacroFinestra", {"menu PrefFornitori"}},
+      {"Lotti_predefiniti", "LottiFinestra", {"clic Imposta_Lotti"}},
+      {"Zsani", "ZsaniFinestra", {"clic Doc_Trasporto"}},
+      {"DimDDT", "DimDDTFinestra", {"menu Pref.|Preferenze per Doc. Sanitario e DDI"}},
+      {"Znota", "ZnotaFinestra", {"tasto F6"}},
+      {"Zvendita", "ZvenditaFinestra", {"tasto F2"}},
+      {"Zgemmit", "ZgemmitFinestra", {"tasto F2"}, "FlagCVManuale=-1\r\nFlagNumCVAutomatica=0\r\n"},
+      {"ZFatture", "ZFattureFinestra", {"clic Fat"}},
+      {"ZFattureBRENVAL", "ZFattureFinestra", {"clic Fat"}, "CodiceCOM=42\r\nFlagFatBrenval=-1\r\n"},
+      {"Personalizza_Fattura", "DicitureFinestra", {"menu Pref.|Preferenze Fatture Personalizzate"}},
+      {"Preferenze", "PreferenzeFinestra", {"menu Pref.|Preferenze Operative"}},
+      {"Colori", "ColoriFinestra", {"menu Pref.|Colore Lista"}},
+      {"Stampante", "StampanteFinestra", {"menu Pref.|Stampante"}},
+      {"Statistica", "StatisticaFinestra", {"clic Stat"}},
+      {"SceltaFile", "SceltaFileFinestra", {"clic Stat", "menu Salva"}},
+      {"Statistica2", "Statistica2Finestra", {"clic Stat2"}},
+      {"RXFor", "RXForFinestra", {"clic Saldo"}},
+      {"RXcli", "RXcliFinestra", {"clic KgCli"}},
+      {"ControlloCV", "ControlloCVFinestra", {"menu File|Controllo CV"}},
+  };
+  return schermi;
+}
+
+}  // namespace operatori
