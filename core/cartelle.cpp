@@ -38,7 +38,8 @@ bool Della_Specie(int cartella, const dirent& voce, Specie_Voce specie) {
   const bool file = specie == Specie_Voce::File;
   if (voce.d_type != DT_UNKNOWN && voce.d_type != DT_LNK) return voce.d_type == (file ? DT_REG : DT_DIR);
   struct stat stato {};
-  if (fstatat(cartella, voce.d_name, &stato, 0) != 0) return false;
+  // What doesn't answer may be a file: whoever reads it is told.
+  if (fstatat(cartella, voce.d_name, &stato, 0) != 0) return file && !Senza_Cartella(errno) && errno != ELOOP;
   return file ? S_ISREG(stato.st_mode) : S_ISDIR(stato.st_mode);
 }
 

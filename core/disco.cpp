@@ -138,6 +138,13 @@ int Fissa_Cartella(const Percorso& cartella) {
   return errno;
 }
 
+// A file that holds what it should already may be in the machine's memory only.
+int Fissa_Presente(const Percorso& percorso) {
+  const Descrittore file = Apri(percorso, O_RDONLY);
+  if (!file.Aperto() || fsync(file.Numero()) != 0) return errno;
+  return Fissa_Cartella(Cartella_Di(percorso));
+}
+
 // Names of files beside their target that are matched by no listing of days, copies or invoices: with the
 // number of the process that writes there.
 constexpr Vista inizio_provvisorio = ".velmara-";
@@ -263,7 +270,8 @@ int Sostituisci_File(const Percorso& bersaglio, Vista contenuto, Rilettura rilet
   if (!stato && ignoto != ENOENT) return ignoto;
   if (stato) {
     if (const int errore = Errore_Di_Scrittura(bersaglio, *stato)) return errore;
-    if (Gia_Uguale(bersaglio, *stato, contenuto)) return 0;
+    if (Gia_Uguale(bersaglio, *stato, contenuto))
+      return rilettura == Rilettura::Si ? Fissa_Presente(bersaglio) : 0;
   }
   const Percorso cartella = Cartella_Di(bersaglio);
   File_Provvisorio nuovo(cartella);
@@ -390,6 +398,10 @@ std::optional<Testo> Disco::Leggi_Testo(const Percorso& percorso, int* errore) c
 
 int Disco::Sostituisci(const Percorso& percorso, Vista contenuto) const {
   return Metti(*this, percorso, contenuto, Rilettura::No);
+}
+
+int Disco::Sostituisci_E_Rileggi(const Percorso& percorso, Vista contenuto) const {
+  return Metti(*this, percorso, contenuto, Rilettura::Si);
 }
 
 int Disco::Scrivi_Nuovo(const Percorso& percorso, Vista contenuto) const {

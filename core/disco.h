@@ -47,6 +47,8 @@ class Disco {
   // After a failure, also one of the last step, the old file is there again where the file system can
   // exchange two names.
   int Sostituisci(const Percorso& percorso, Vista contenuto) const;
+  // The same for a stick: read again from the disk before it takes its name, as by Copia.
+  int Sostituisci_E_Rileggi(const Percorso& percorso, Vista contenuto) const;
   // The same for a file that isn't there: EEXIST, and nothing is changed, where something stands under
   // exactly this name. Other letter cases of the name are not looked for.
   int Scrivi_Nuovo(const Percorso& percorso, Vista contenuto) const;

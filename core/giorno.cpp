@@ -114,6 +114,16 @@ std::size_t Conta(Vista contenuto, char c) {
   return quanti;
 }
 
+// As many as Lettore_Righe finds: CR LF is one end, the last line may have none.
+std::size_t Conta_Righe(Vista contenuto) {
+  std::size_t righe = Conta(contenuto, '\n') + Conta(contenuto, '\r');
+  for (std::size_t dove = contenuto.find(FINE_RIGA); dove != Vista::npos;
+       dove = contenuto.find(FINE_RIGA, dove + 2))
+    --righe;
+  const bool senza_fine = !contenuto.empty() && contenuto.back() != '\n' && contenuto.back() != '\r';
+  return righe + (senza_fine ? 1 : 0);
+}
+
 bool Solo_Cifre(Vista testo) {
   return !testo.empty() && testo.find_first_not_of("0123456789") == Vista::npos;
 }
@@ -169,14 +179,16 @@ bool Carica_Giorno(Programma& programma) {
     Di_Errore_File(programma, errore, "la lettura", programma.File_Giorno);
     return false;
   }
-  Tabella tabella = Leggi_Tabella(contenuto ? Vista(*contenuto) : Vista(), programma.Separatore_Decimale);
-  if (tabella.righe.size() > static_cast<std::size_t>(righe_massime)) {
+  // Counted before they are read: a file of line ends alone would take a thousand times its size.
+  const Vista testo = contenuto ? Vista(*contenuto) : Vista();
+  const std::size_t righe = Conta_Righe(testo);
+  if (righe > static_cast<std::size_t>(righe_massime)) {
     programma.piattaforma.Messaggio(
-        "Il giorno ha " + std::to_string(tabella.righe.size()) + " righe, se ne possono aprire al massimo " +
+        "Il giorno ha " + std::to_string(righe) + " righe, se ne possono aprire al massimo " +
         std::to_string(righe_massime) + "\n" + Testo_Percorso(programma.File_Giorno));
     return false;
   }
-  Apri_Tabella(programma, std::move(tabella));
+  Apri_Tabella(programma, Leggi_Tabella(testo, programma.Separatore_Decimale));
   return true;
 }
 

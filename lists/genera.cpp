@@ -38,8 +38,8 @@ int Numero_Righe(Vista contenuto) {
 bool Gia_Provveduto(const Programma& programma, const std::vector<Vista>& precedenti, Lista_Generata& esito) {
   if (!Manca_Lista(programma, esito.nome, &esito.errore)) return true;
   for (const Vista precedente : precedenti) {
-    if (Manca_Lista(programma, precedente)) continue;
-    esito.precedente = precedente;
+    if (Manca_Lista(programma, precedente, &esito.errore)) continue;
+    if (esito.errore == 0) esito.precedente = precedente;
     return true;
   }
   return false;

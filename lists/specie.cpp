@@ -27,6 +27,11 @@ void Leggi_Specie(Programma& programma) {
   if (!Manca_Lista(programma, nomi_file::Pelmoro)) {
     programma.piattaforma.Messaggio(assenti + "genero il file di default");
     if (programma.Vet_Pelmoro.empty()) Leggi_Pelmoro(programma);
+    // An empty list would bar the species from being made of it once it can be read.
+    if (programma.Liste_Ignote.contains(Testo(nomi_file::Pelmoro))) {
+      programma.Vet_Specie.assign(1, {});
+      return;
+    }
     programma.Vet_Specie = programma.Vet_Pelmoro;
     Salva_Specie(programma);
     return;

@@ -6,7 +6,7 @@ packages_build=(
   "g++|the compiler"
   "cmake|configures the build"
   "ninja-build|runs the build"
-  "pkg-config|finds SimpleIni for the build"
+  "pkg-config|finds SimpleIni and HarfBuzz for the build"
   "qt6-base-dev|windows and paper"
   "libsimpleini-dev|the settings file"
   "libharfbuzz-dev|the parts of the typefaces that a PDF takes in"

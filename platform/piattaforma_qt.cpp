@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
 #include <QMessageBox>
@@ -88,6 +89,17 @@ void Righe_Intere(QMessageBox& box) {
   if (larga < box.screen()->availableGeometry().width() * 3 / 4) scritta->setMinimumWidth(larga + 4);
 }
 
+// An Esc still held down, as after it has stopped a print, answers nothing: the message would go unread, and
+// the screen behind it close.
+class Esc_Tenuto : public QObject {
+ public:
+  bool eventFilter(QObject*, QEvent* evento) override {
+    if (evento->type() != QEvent::KeyPress) return false;
+    const auto& tasto = static_cast<const QKeyEvent&>(*evento);
+    return tasto.key() == Qt::Key_Escape && tasto.isAutoRepeat();
+  }
+};
+
 bool Mostra_Messaggio(const Testo& testo, Icona icona, const Testo& titolo, bool annullabile) {
   Mostra_Finestre();
   const Interruzione interruzione;
@@ -102,6 +114,8 @@ bool Mostra_Messaggio(const Testo& testo, Icona icona, const Testo& titolo, bool
     box.setEscapeButton(box.addButton(QStringLiteral("Annulla"), QMessageBox::RejectRole));
   else
     box.setEscapeButton(ok);
+  Esc_Tenuto tenuto;
+  box.installEventFilter(&tenuto);
   box.exec();
   return box.clickedButton() == ok;
 }
@@ -113,7 +127,10 @@ void Piattaforma_Qt::Messaggio(const Testo& testo, Icona icona, const Testo& tit
 }
 
 bool Piattaforma_Qt::Domanda(const Testo& testo, Icona icona, const Testo& titolo) {
-  return Mostra_Messaggio(testo, icona, titolo, true);
+  const bool si = Mostra_Messaggio(testo, icona, titolo, true);
+  // The work that is asked about begins with the answer.
+  if (occupato_da_.isValid()) occupato_da_.start();
+  return si;
 }
 
 std::optional<Testo> Piattaforma_Qt::Chiedi(const Testo& testo, const Testo& titolo, const Testo& proposta) {

@@ -7,7 +7,8 @@ std::optional<std::vector<Percorso>> Ditte_In(const Disco& disco, const Percorso
   for (const Percorso& nome : *nomi) {
     const Percorso ditta = radice / nome;
     if (disco.Esiste_File(Unisci_Percorso(ditta, Programma_Ditta)) ||
-        disco.Esiste_File(Unisci_Percorso(ditta, "_2020_RAGIONE.txt")))
+        disco.Esiste_File(Unisci_Percorso(ditta, "_2020_RAGIONE.txt")) ||
+        disco.Esiste_File(Unisci_Percorso(ditta, "RAGIONE.txt")))  // of the older generation
       ditte.push_back(ditta);
   }
   return ditte;

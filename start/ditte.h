@@ -12,8 +12,8 @@
 inline constexpr Vista Programma_Ditta = "Velmara_2020";
 inline constexpr Vista Programmi_Ditta[] = {Programma_Ditta, "Velmara_2020_Descri"};
 
-// The folders below `radice` that hold the program or a letterhead, by name. Nothing where it can't be read;
-// `errore` then says why.
+// The folders below `radice` that hold the program or a letterhead, also one of the older generation, by
+// name. Nothing where it can't be read; `errore` then says why.
 std::optional<std::vector<Percorso>> Ditte_In(const Disco& disco, const Percorso& radice,
                                               int* errore = nullptr);
 

@@ -35,8 +35,7 @@ void Metti_Media(LedgerRow& riga, char separatore) {
   if (totale && peso && *peso != 0) riga[NCV] = Formato(*totale / *peso, importo, separatore);
 }
 
-// A text that is no number would keep its place in a sum and take the neighbours with it; so rows that can't
-// be read come last in their group, and those that can be are all added.
+// Of rows that become one the first one's texts stay: where there is one that can be read, it is that.
 void Illeggibili_In_Fondo(std::vector<LedgerRow>& righe, char separatore) {
   std::vector<int> mancanze;
   mancanze.reserve(righe.size());

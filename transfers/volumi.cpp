@@ -81,7 +81,11 @@ bool Sul_Volume(const std::vector<Volume>& volumi, const Percorso& percorso, con
 
 int Scrivi_Sul_Volume(const Programma& programma, const Percorso& radice, const Percorso& file,
                       Vista contenuto) {
-  return Col_Volume(programma, radice, [&] { return programma.disco.Sostituisci(file, contenuto); });
+  return Col_Volume(programma, radice, [&] {
+    // Only a stick is pulled out at once.
+    return radice.empty() ? programma.disco.Sostituisci(file, contenuto)
+                          : programma.disco.Sostituisci_E_Rileggi(file, contenuto);
+  });
 }
 
 int Copia_Sul_Volume(const Programma& programma, const Percorso& radice, const Percorso& da,

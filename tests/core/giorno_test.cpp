@@ -296,6 +296,29 @@ TEST_F(Giorno, RigheFinoALimite) {
                           Testo_Percorso(programma.File_Giorno)));
 }
 
+TEST_F(Giorno, IlLimiteContaOgniFineRiga) {
+  Testo ritorni(32767, '\r'), miste;
+  for (int i = 0; i < 16383; ++i) miste += "x\r\n\n";
+  for (const Testo& giusto : {ritorni, miste + "x", miste + "x\r\n"}) {
+    cartella.Metti("2025/20250314.txt", giusto);
+    EXPECT_TRUE(Carica_Giorno(programma));
+    EXPECT_EQ(programma.Vet_Tabella.Righe(), 32767);
+  }
+  for (const Testo& troppo : {ritorni + "x", miste + "x\r\nx", miste + "\n\r"}) {
+    cartella.Metti("2025/20250314.txt", troppo);
+    macchina.messaggi.clear();
+    EXPECT_FALSE(Carica_Giorno(programma));
+    EXPECT_TRUE(Contiene(macchina.messaggi.at(0), "32768 righe"));
+  }
+}
+
+// Each line would become a row of more than a thousand bytes.
+TEST_F(Giorno, MilioniDiFineRigaNonEsaurisconoLaMemoria) {
+  cartella.Metti("2025/20250314.txt", Testo(40'000'000, '\n'));
+  EXPECT_FALSE(Carica_Giorno(programma));
+  EXPECT_THAT(macchina.messaggi, ElementsAre(testing::StartsWith("Il giorno ha 40000000 righe")));
+}
+
 TEST_F(Giorno, SalvaScriveOgniRiga) {
   programma.Vet_Tabella = Leggi_Tabella(orata + orata, ',');
   programma.Tabella_Modificata = true;

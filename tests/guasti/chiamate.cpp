@@ -113,6 +113,7 @@ ssize_t __real_write(int file, const void* cosa, std::size_t quanti);
 int __real_fchmod(int file, mode_t diritti);
 int __real_fstat(int file, struct stat* stato);
 int __real_stat(const char* percorso, struct stat* stato);
+int __real_fstatat(int cartella, const char* percorso, struct stat* stato, int come);
 int __real_faccessat(int cartella, const char* percorso, int modo, int altro);
 int __real_rename(const char* da, const char* a);
 int __real_renameat2(int da_dove, const char* da, int a_dove, const char* a, unsigned come);
@@ -164,6 +165,9 @@ int __wrap_fchmod(int file, mode_t diritti) { return Chiama("fchmod", __real_fch
 int __wrap_fstat(int file, struct stat* stato) { return Chiama("fstat", __real_fstat, file, stato); }
 int __wrap_stat(const char* percorso, struct stat* stato) {
   return Chiama("stat", __real_stat, percorso, stato);
+}
+int __wrap_fstatat(int cartella, const char* percorso, struct stat* stato, int come) {
+  return Chiama("fstatat", __real_fstatat, cartella, percorso, stato, come);
 }
 int __wrap_faccessat(int cartella, const char* percorso, int modo, int altro) {
   return Chiama("faccessat", __real_faccessat, cartella, percorso, modo, altro);

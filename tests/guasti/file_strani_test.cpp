@@ -264,6 +264,16 @@ TEST_F(File_Strani, ListaNonLettaNonSiRiscrive) {
   EXPECT_EQ(Contenuto("_Client32.txt"), buoni);
 }
 
+// The firm's species are made of the reference list when they are missing: not of one that can't be read.
+TEST_F(File_Strani, DaUnElencoDiRiferimentoNonLettoNonNasconoSpecie) {
+  fs::remove(scena.cartella / Testo(nomi_file::Specie));
+  fs::resize_file(scena.cartella / Testo(nomi_file::Pelmoro), (std::uintmax_t{1} << 30U) + 1);
+  programma.Vet_Pelmoro.clear();
+  Leggi_Specie(programma);
+  EXPECT_FALSE(fs::exists(scena.cartella / Testo(nomi_file::Specie)));
+  EXPECT_EQ(programma.Vet_Specie.size(), 1U) << "as where both lists are missing";
+}
+
 TEST_F(File_Strani, ImpostazioniNonLetteNonSiRiscrivono) {
   const Testo buone = Contenuto("Velmara_2020.ini");
   fs::rename(programma.File_Ini, scena.cartella / "via");

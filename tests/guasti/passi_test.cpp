@@ -4,6 +4,7 @@
 #include "tests/guasti/chiamate.h"
 #include "tests/guasti/salvataggi.h"
 #include "tests/guasti/versioni.h"
+#include "transfers/volumi.h"
 
 // Each save of each room, with each call to the disk failing in turn: the operator is told, file and table
 // are as before, and a later save works.
@@ -131,6 +132,55 @@ TEST(Copie, UnaChiavettaCheRestituisceAltriByteNonPrendeIlPostoDelGiorno) {
           << scena.macchina.messaggi.back();
       EXPECT_TRUE(scena.macchina.aperti.empty());
     }
+}
+
+TEST(Copie, UnaChiavettaCheRestituisceAltriByteNonPrendeIlFileDelMercato) {
+  for (const bool c_e_gia : {false, true}) {
+    Scena scena;
+    const Percorso chiavetta = scena.cartella / "chiavetta", file = chiavetta / "20250314.txt";
+    std::filesystem::create_directories(chiavetta);
+    scena.macchina.volumi = {{chiavetta, "E:", "CHIAVETTA"}};
+    if (c_e_gia) scena.cartella.Metti("chiavetta/20250314.txt", "di prima\r\n");
+    const Foto prima = scena.Foto();
+    regia().Falsa();
+    const int errore = Scrivi_Sul_Volume(scena.programma, chiavetta, file, "di adesso\r\n");
+    regia().Ferma();
+    EXPECT_EQ(errore, EIO);
+    EXPECT_EQ(scena.Foto(), prima);
+  }
+}
+
+// A day that lies elsewhere, behind a link, and doesn't answer: whoever reads the year is told, and doesn't
+// count a day less.
+TEST(Cartelle, UnCollegamentoCheNonRispondeRestaNellElenco) {
+  Scena scena;
+  scena.cartella.Metti("altrove/giorno.txt", "0001\tMare\r\n");
+  std::filesystem::create_directories(scena.cartella / "anno");
+  std::filesystem::create_symlink("../altrove/giorno.txt", scena.cartella / "anno/20250102.txt");
+  std::filesystem::create_symlink("../altrove/manca.txt", scena.cartella / "anno/20250103.txt");
+  const auto elenca = [&] { return scena.programma.disco.Elenca(scena.cartella / "anno", "*.txt").value(); };
+  regia().Registra();
+  EXPECT_THAT(elenca(), testing::ElementsAre("20250102.txt"));
+  const std::vector<std::string> chiamate = regia().Chiamate();
+  for (std::size_t posto = 1; posto <= chiamate.size(); ++posto) {
+    if (chiamate[posto - 1] != "fstatat") continue;
+    regia().Guasta(static_cast<int>(posto), {EIO});
+    EXPECT_THAT(elenca(), testing::Contains(Percorso("20250102.txt")));
+  }
+  regia().Ferma();
+  EXPECT_EQ(std::ranges::count(chiamate, "fstatat"), 2) << "both links are asked";
+}
+
+// What somebody else has put on the stick may still be in the machine's memory only when the stick is pulled.
+TEST(Copie, AncheQuelloCheCEGiaUgualeVaFinoAlDisco) {
+  Scena scena;
+  scena.cartella.Metti("da.txt", "0001\tMare\r\n");
+  scena.cartella.Metti("a.txt", "0001\tMare\r\n");
+  regia().Registra();
+  const int errore = scena.programma.disco.Copia(scena.cartella / "da.txt", scena.cartella / "a.txt");
+  regia().Ferma();
+  EXPECT_EQ(errore, 0);
+  EXPECT_EQ(std::ranges::count(regia().Chiamate(), "fsync"), 2) << "the file and its folder";
 }
 
 }  // namespace

@@ -28,14 +28,15 @@ struct Versioni_Intere {
     foto.push_back(scena.Foto());
   }
 
-  // The names of files that are none of these, one that is missing too.
+  // The names of files that are none of these. One that is there before and after may never be missing.
   std::vector<std::string> Guaste(const Foto& adesso) const {
     Foto tutte = adesso;
     for (const Foto& una : foto) tutte.insert(una.begin(), una.end());
     std::vector<std::string> guaste;
     for (const auto& [nome, contenuto] : tutte) {
       const auto come = [&](const Foto& una) { return Stesso(adesso, una, nome); };
-      if (std::ranges::none_of(foto, come)) guaste.push_back(nome);
+      const bool sempre = Prima().contains(nome) && Dopo().contains(nome);
+      if ((sempre && !adesso.contains(nome)) || std::ranges::none_of(foto, come)) guaste.push_back(nome);
     }
     return guaste;
   }

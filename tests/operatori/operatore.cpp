@@ -406,7 +406,9 @@ Testo Operatore::dati() {
   for (const QString& testo : nei_campi_) tutto.append("\n").append(Da_QString(testo));
   const auto widget = QApplication::allWidgets();
   for (const QWidget* uno : widget)
-    if (const auto* scritta = qobject_cast<const QLabel*>(uno))
+    // not those of a message, which is what is looked at
+    if (const auto* scritta = qobject_cast<const QLabel*>(uno);
+        scritta && !qobject_cast<const QMessageBox*>(uno->window()))
       tutto.append("\n").append(Da_QString(scritta->text()));
   return tutto;
 }

@@ -19,9 +19,11 @@ TEST_F(Ditte_Prova, SonoLeCartelleConIlProgrammaOLIntestazione) {
   cartella.Metti("Velmara/Mario/Velmara_2020", "x");
   cartella.Metti("Velmara/anna/_2020_ragione.txt", "x");
   cartella.Metti("Velmara/foto/mare.jpg", "x");
+  cartella.Metti("Velmara/vecchia/RAGIONE.txt", "x");  // comes over from the older program
   cartella.Metti("Velmara/Velmara_2020", "x");
-  EXPECT_THAT(Ditte_In(disco, cartella / "Velmara").value(),
-              ElementsAre(cartella / "Velmara/anna", cartella / "Velmara/Mario"));
+  EXPECT_THAT(
+      Ditte_In(disco, cartella / "Velmara").value(),
+      ElementsAre(cartella / "Velmara/anna", cartella / "Velmara/Mario", cartella / "Velmara/vecchia"));
   EXPECT_THAT(Ditte_In(disco, cartella / "manca").value(), IsEmpty());
   std::filesystem::create_directory_symlink("giro", cartella / "giro");
   int errore = 0;
