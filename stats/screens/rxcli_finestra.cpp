@@ -3,6 +3,7 @@
 #include <QBoxLayout>
 #include <QLabel>
 #include <QListView>
+#include <QMenuBar>
 
 namespace {
 

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QListView>
+#include <QMenuBar>
 #include <QPushButton>
 
 namespace {

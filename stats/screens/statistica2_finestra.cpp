@@ -3,6 +3,7 @@
 #include <QBoxLayout>
 #include <QLabel>
 #include <QListView>
+#include <QMenuBar>
 #include <QPushButton>
 
 #include "printing/screens/stampante_finestra.h"
