@@ -16,6 +16,7 @@
 #include <QWidget>
 
 #include "bench/ditta.h"
+#include "platform/aspetto.h"
 #include "printing/nomi_stampe.h"
 #include "printing/screens/stampante_qt.h"
 #include "start/screens/applicazione.h"
@@ -163,6 +164,7 @@ int main(int argc, char** argv) {
   partenza += Adesso() - prima_della_ditta;  // making the firm is no part of the start
 
   QApplication qt(argc, argv);
+  Prepara_Aspetto();
   Stampante_Qt carta(ditta.Cartella());
   carta.Scegli(Testo(Stampante_PDF), Verticale);
   macchina.dispositivo = &carta;

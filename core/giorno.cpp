@@ -179,16 +179,17 @@ bool Carica_Giorno(Programma& programma) {
     Di_Errore_File(programma, errore, "la lettura", programma.File_Giorno);
     return false;
   }
-  // Counted before they are read: a file of line ends alone would take a thousand times its size.
+  // One more than fits tells that there are too many: all rows of a file of line ends alone would take a
+  // thousand times its size.
   const Vista testo = contenuto ? Vista(*contenuto) : Vista();
-  const std::size_t righe = Conta_Righe(testo);
-  if (righe > static_cast<std::size_t>(righe_massime)) {
+  Tabella tabella = Leggi_Tabella(testo, programma.Separatore_Decimale, righe_massime + 1);
+  if (tabella.Righe() > righe_massime) {
     programma.piattaforma.Messaggio(
-        "Il giorno ha " + std::to_string(righe) + " righe, se ne possono aprire al massimo " +
+        "Il giorno ha " + std::to_string(Conta_Righe(testo)) + " righe, se ne possono aprire al massimo " +
         std::to_string(righe_massime) + "\n" + Testo_Percorso(programma.File_Giorno));
     return false;
   }
-  Apri_Tabella(programma, Leggi_Tabella(testo, programma.Separatore_Decimale));
+  Apri_Tabella(programma, std::move(tabella));
   return true;
 }
 
@@ -288,13 +289,13 @@ Testo Scrivi_Tabella(const Tabella& tabella) {
   return contenuto;
 }
 
-Tabella Leggi_Tabella(Vista contenuto, char separatore) {
+Tabella Leggi_Tabella(Vista contenuto, char separatore, std::size_t massime) {
   contenuto = Senza_Marca(contenuto);
   Tabella tabella;
   tabella.righe.clear();
-  tabella.righe.reserve(Conta(contenuto, '\n') + righe_in_piu);
+  tabella.righe.reserve(std::min(Conta(contenuto, '\n'), massime) + righe_in_piu);
   Chiedi_Pagine_Grandi(tabella.righe.data(), tabella.righe.capacity() * sizeof(LedgerRow));
-  for (Lettore_Righe lettore(contenuto, separatore); !lettore.Finito();)
+  for (Lettore_Righe lettore(contenuto, separatore); !lettore.Finito() && tabella.righe.size() < massime;)
     lettore.Leggi(tabella.righe.emplace_back());
   if (tabella.righe.empty()) tabella.righe.push_back(Riga_Segnaposto());
   return tabella;

@@ -35,6 +35,7 @@ void Di_Errore_File(const Programma& programma, int errore, Vista che_cosa, cons
 bool Crea_Cartella(Programma& programma, const Percorso& cartella);
 
 // The bytes of a table's day file, and a table from such bytes (separators of weight, price and commission
-// brought to the machine's). `contenuto` empty: the placeholder row.
+// brought to the machine's), of no more than the first `massime` rows. `contenuto` empty: the placeholder
+// row.
 Testo Scrivi_Tabella(const Tabella& tabella);
-Tabella Leggi_Tabella(Vista contenuto, char separatore);
+Tabella Leggi_Tabella(Vista contenuto, char separatore, std::size_t massime = Vista::npos);

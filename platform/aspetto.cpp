@@ -7,6 +7,7 @@
 #include <QFocusEvent>
 #include <QGroupBox>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QProxyStyle>
 #include <QPushButton>
 #include <QStyleOption>
@@ -35,6 +36,27 @@ double Luminosita(const QColor& colore) {
 }
 
 bool E_Lista(const QWidget* widget) { return qobject_cast<const QAbstractItemView*>(widget) != nullptr; }
+
+// What a scroll bar looks like depends on: two that agree in all of it look the same.
+QString Chiave_Scorrimento(const QStyleOptionSlider& barra, const QRect& cursore, double scala) {
+  const QRect& tutta = barra.rect;
+  return QStringLiteral("scorrimento %1 %2 %3 %4 %5 %6 %7 %8 %9")
+             .arg(tutta.width())
+             .arg(tutta.height())
+             .arg(cursore.x() - tutta.x())
+             .arg(cursore.y() - tutta.y())
+             .arg(cursore.width())
+             .arg(cursore.height())
+             .arg(static_cast<uint>(barra.state), 0, 16)
+             .arg(static_cast<uint>(barra.activeSubControls), 0, 16)
+             .arg(scala) +
+         QStringLiteral(" %1 %2 %3 %4 %5")
+             .arg(barra.palette.cacheKey(), 0, 16)
+             .arg(static_cast<uint>(barra.subControls), 0, 16)
+             .arg(static_cast<int>(barra.orientation))
+             .arg(static_cast<int>(barra.direction))
+             .arg(barra.minimum == barra.maximum ? 1 : 0);
+}
 
 // The desktop's own style, with outlines where a dark palette would swallow them, room around the captions of
 // buttons, and lists that show by their frame that they have the keyboard.
@@ -71,6 +93,30 @@ class Stile_Con_Contorni : public QProxyStyle {
       pittore->drawRect(intorno);
     }
     pittore->restore();
+  }
+
+  // Each row that is added changes the range of the scroll bars, hardly ever what they look like; the
+  // shades of a whole bar take as long to paint as the rest of the screen's fields.
+  void drawComplexControl(ComplexControl parte, const QStyleOptionComplex* opzioni, QPainter* pittore,
+                          const QWidget* widget) const override {
+    const auto* barra = qstyleoption_cast<const QStyleOptionSlider*>(opzioni);
+    if (parte != CC_ScrollBar || barra == nullptr || barra->rect.isEmpty())
+      return QProxyStyle::drawComplexControl(parte, opzioni, pittore, widget);
+    const double scala = pittore->device()->devicePixelRatioF();
+    const QRect cursore = subControlRect(parte, opzioni, SC_ScrollBarSlider, widget);
+    const QString chiave = Chiave_Scorrimento(*barra, cursore, scala);
+    QPixmap immagine;
+    if (!QPixmapCache::find(chiave, &immagine)) {
+      immagine = QPixmap((QSizeF(barra->rect.size()) * scala).toSize());
+      immagine.setDevicePixelRatio(scala);
+      immagine.fill(Qt::transparent);
+      QPainter sopra(&immagine);
+      sopra.translate(-barra->rect.topLeft());
+      QProxyStyle::drawComplexControl(parte, opzioni, &sopra, widget);
+      sopra.end();
+      QPixmapCache::insert(chiave, immagine);
+    }
+    pittore->drawPixmap(barra->rect.topLeft(), immagine);
   }
 
  private:

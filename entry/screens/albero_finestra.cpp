@@ -5,9 +5,9 @@
 #include <QKeyEvent>
 #include <QListView>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
 
 #include "platform/aspetto.h"
+#include "platform/riga_elenco.h"
 #include "platform/testo_qt.h"
 
 namespace {
@@ -16,9 +16,9 @@ namespace {
 // beyond these columns is read in its field.
 constexpr int colonne_riga = 200;
 
-class Disegno_Riga : public QStyledItemDelegate {
+class Disegno_Riga : public RigaElenco {
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
+  using RigaElenco::RigaElenco;
   QSize sizeHint(const QStyleOptionViewItem& opzioni, const QModelIndex&) const override {
     const QFontMetrics& misure = opzioni.fontMetrics;
     return {misure.horizontalAdvance(u'0') * colonne_riga, misure.height() + 4};
