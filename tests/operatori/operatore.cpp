@@ -16,6 +16,7 @@
 #include <QPlainTextEdit>
 #include <QThread>
 
+#include "accounts/conti.h"
 #include "platform/testo_qt.h"
 #include "start/screens/ditte_finestra.h"
 #include "tests/operatori/ditta.h"
@@ -433,13 +434,14 @@ void Operatore::controlla_carta() {
 }
 
 // An account is on paper: its number must be out on the disk, so that no other one gets it. By hand, numbers
-// are the operator's.
+// are the operator's; an account that could not be numbered, which has been told, has none to give out.
 void Operatore::controlla_numero(Vista documento) {
   static constexpr Vista conto = " Conto Vendita ";
   const auto dove = documento.find(conto);
   if (dove == Vista::npos || Raggiungibile("Zgemmit")) return;
   const Testo numero(documento.substr(dove + conto.size(), 9));
   const auto stampato = std::strtol(numero.c_str(), nullptr, 10);
+  if (stampato == Senza_Numero_CV) return;
   if (const auto emesso = Ultimo_Conto(ditta_); emesso < stampato)
     difetto("stampato il conto " + std::to_string(stampato) + ", nel file l'ultimo e' " +
             std::to_string(emesso));
