@@ -27,6 +27,7 @@ packages_test=(
   "valgrind|counts the instructions of what the operator does all night"
 )
 packages_guide=(
+  "imagemagick|turns its pictures into the form in which they are folded, and back"
   "python3-markdown|makes HTML of the manual's text"
   "weasyprint|makes PDF of it"
 )
@@ -49,6 +50,7 @@ packages_deb=(
 )
 
 packages_trial=(
+  "lintian|what Debian itself finds fault with in a package"
   "debootstrap|makes the root folder that the package is tried in"
 )
 
