@@ -61,6 +61,13 @@ Testo RigaListaCV(const Conto_CV& conto, char separatore) {
          Pad_Sinistra(conto.SpeAnt, larghezza_spese) + "|" + conto.Prov + " %";
 }
 
+std::vector<Testo> RigheListaCV(const Tabella_Conti& conti, char separatore) {
+  std::vector<Testo> righe;
+  righe.reserve(conti.size());
+  for (const Conto_CV& conto : conti) righe.push_back(RigaListaCV(conto, separatore));
+  return righe;
+}
+
 Testo TitoloListaCV() { return "NCV   | data     |   Fornitore   |     DDT_CV    |SpeAnt.|Prov.%"; }
 
 void Consolida_CV(std::vector<LedgerRow>& righe, CampoRiga chiaveA, CampoRiga chiaveB, CampoRiga sommaA,

@@ -33,8 +33,9 @@ Tabella_Conti ContiDelGiorno(const Tabella& tabella, CampoRiga chiave, char sepa
 // longer numbers stand where their text stands. Gives the old places, from 0, in the new order.
 std::vector<std::size_t> Ordina_Tabella_CV(Tabella_Conti& conti, char separatore);
 
-// A line of the list of accounts, and the line above them.
+// A line of the list of accounts, all of them, and the line above.
 Testo RigaListaCV(const Conto_CV& conto, char separatore);
+std::vector<Testo> RigheListaCV(const Tabella_Conti& conti, char separatore);
 Testo TitoloListaCV();
 
 // Sorts by the texts of keys A and B, and merges rows in which both are equal ignoring case: the sums go into

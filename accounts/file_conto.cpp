@@ -11,13 +11,11 @@ namespace {
 
 constexpr Vista Cartella_No = "CV_NO", Cartella_Si = "CV_SI";
 
-bool Cifra(char c) { return c >= '0' && c <= '9'; }
-
 // Month and day, four digits, of a date as the accounts carry it, or of any other way to write one.
 std::optional<Testo> Mese_Giorno(Vista data) {
   data = Pulito(data);
   const Testo posti = Testo(Da(data, 4).substr(0, 2)).append(Sinistra(data, 2));
-  if (posti.size() == 4 && std::all_of(posti.begin(), posti.end(), Cifra)) return posti;
+  if (Tutte_Cifre(posti, 4)) return posti;
   const auto letta = Leggi_Data(data);
   if (!letta) return std::nullopt;
   return Testo_Data(*letta, "yyyymmdd").substr(4);

@@ -70,11 +70,7 @@ void Mostra_Conto(const Programma& programma, Zgemmit& zgemmit) {
 }
 
 void Riempi_Lista(const Programma& programma, Zgemmit& zgemmit, int scelta) {
-  std::vector<Testo> righe;
-  righe.reserve(zgemmit.Tabella_CV.size());
-  for (const Conto_CV& conto : zgemmit.Tabella_CV)
-    righe.push_back(RigaListaCV(conto, programma.Separatore_Decimale));
-  zgemmit.ListaCV.Riempi(std::move(righe));
+  zgemmit.ListaCV.Riempi(RigheListaCV(zgemmit.Tabella_CV, programma.Separatore_Decimale));
   zgemmit.ListaCV.scelta = std::min(scelta, static_cast<int>(zgemmit.Tabella_CV.size()) - 1);
   Mostra_Conto(programma, zgemmit);
 }

@@ -44,8 +44,7 @@ void Somma_Aliquote(Importi_CV& importi, const Regole_Importi& regole) {
 
 Testo ChiaveNCV(Vista ncv) {
   Vista chiave = Pulito(ncv);
-  const bool numero = !chiave.empty() && chiave.find_first_not_of("0123456789") == Vista::npos;
-  if (!numero) return Minuscolo(chiave);
+  if (!Tutte_Cifre(chiave)) return Minuscolo(chiave);
   chiave.remove_prefix(std::min(chiave.find_first_not_of('0'), chiave.size() - 1));
   return Testo(chiave);
 }

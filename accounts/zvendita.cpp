@@ -205,7 +205,7 @@ bool TastoCampoConto(Zvendita& zvendita, int campo, const Pressione& pressione) 
 
 std::optional<char> CarattereCampoConto(int campo, char carattere, Vista testo, char separatore) {
   if (campo != Campo_Spese && campo != Campo_Prov) return carattere;
-  if (carattere >= '0' && carattere <= '9') return carattere;
+  if (E_Cifra(carattere)) return carattere;
   if (testo.find(separatore) == Vista::npos) return separatore;
   return std::nullopt;
 }

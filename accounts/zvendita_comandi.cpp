@@ -62,11 +62,7 @@ void TitoloConti(const Programma& programma, Zvendita& zvendita) {
 }
 
 void RiempiListaCV(const Programma& programma, Zvendita& zvendita, int scelta) {
-  std::vector<Testo> righe;
-  righe.reserve(zvendita.Tabella_CV.size());
-  for (const Conto_CV& conto : zvendita.Tabella_CV)
-    righe.push_back(RigaListaCV(conto, programma.Separatore_Decimale));
-  zvendita.ListaCV.Riempi(std::move(righe));
+  zvendita.ListaCV.Riempi(RigheListaCV(zvendita.Tabella_CV, programma.Separatore_Decimale));
   SceltaConto(zvendita, std::min(scelta, static_cast<int>(zvendita.Tabella_CV.size()) - 1));
   AggiornaComandi(zvendita);
 }

@@ -124,10 +124,6 @@ std::size_t Conta_Righe(Vista contenuto) {
   return righe + (senza_fine ? 1 : 0);
 }
 
-bool Solo_Cifre(Vista testo) {
-  return !testo.empty() && testo.find_first_not_of("0123456789") == Vista::npos;
-}
-
 // Overwrites and deletes the .dat files of a folder; the error of the last one that stays or lies there
 // still, or of the folder, 0 without one.
 int Cancella_Dat_In(const Programma& programma, const Percorso& cartella, Percorso& rimasto) {
@@ -259,7 +255,7 @@ void Cancella_File_Dat(Programma& programma, Vista anno) {
   anno = Pulito(anno);
   // Anything but a year would lead to another folder, an empty one to the firm's own with its other .dat
   // files.
-  if (Solo_Cifre(anno))
+  if (Tutte_Cifre(anno))
     errore = Cancella_Dat_In(programma, Unisci_Percorso(programma.Cartella_Dati, anno), rimasto);
   if (errore == 0)
     programma.piattaforma.Messaggio("Tutto OK...");

@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr bool Cifra(char c) { return c >= '0' && c <= '9'; }
-
 struct Numero_Scritto {
   std::size_t lunghezza = 0;  // characters from the start of the text: sign, digits, separator
   bool cifre = false;         // there is at least one digit
@@ -22,7 +20,7 @@ Numero_Scritto Misura(Vista testo, char separatore) {
   bool separato = false;
   for (std::size_t i = 0; i < testo.size(); ++i) {
     const char c = testo[i];
-    if (Cifra(c)) {
+    if (E_Cifra(c)) {
       scritto.cifre = true;
     } else if (c == separatore && !separato) {
       separato = true;
@@ -57,7 +55,7 @@ double Converti_Corto(Vista numero, char separatore) {
   for (const char c : numero) {
     if (c == separatore) {
       separato = true;
-    } else if (Cifra(c)) {
+    } else if (E_Cifra(c)) {
       cifre = cifre * 10 + (c - '0');
       if (separato) ++decimali;
     }

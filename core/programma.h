@@ -30,8 +30,9 @@ struct Programma {
   Percorso Cartella_Dati;
   Percorso File_Ini;
   char Separatore_Decimale = ',', Separatore_Altro = '.';
-  Data Oggi;                     // when the program started
-  Testo Ieri_AAMMGG;             // the day before Oggi; the date of automatic lots
+  Data Oggi;                // when the program started
+  int Errore_Cartella = 0;  // why nothing can be written in the firm's folder: told when the program starts
+  Testo Ieri_AAMMGG;        // the day before Oggi; the date of automatic lots
   std::array<Testo, 7> Ragione;  // letterhead lines Ragione1 to Ragione7
 
   // the open day

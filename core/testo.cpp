@@ -188,6 +188,10 @@ Testo Pad_Sinistra(Vista testo, std::size_t n, char con) {
   return colonna.append(testo);
 }
 
+bool Tutte_Cifre(Vista testo) { return !testo.empty() && std::all_of(testo.begin(), testo.end(), E_Cifra); }
+
+bool Tutte_Cifre(Vista testo, std::size_t quante) { return testo.size() == quante && Tutte_Cifre(testo); }
+
 Testo Sostituisci_Tutti(Vista testo, Vista cosa, Vista con) {
   if (cosa.empty()) return Testo(testo);
   Testo nuovo;

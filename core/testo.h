@@ -87,6 +87,10 @@ bool Uguali(Vista a, Vista b);            // ignoring case
 bool Inizia(Vista testo, Vista inizio);   // ignoring case
 bool Contiene(Vista testo, Vista parte);  // ignoring case; an empty part is in every text
 
+constexpr bool E_Cifra(char c) { return c >= '0' && c <= '9'; }
+bool Tutte_Cifre(Vista testo);  // at least one
+bool Tutte_Cifre(Vista testo, std::size_t quante);
+
 Vista Pulito(Vista testo);  // without the blanks (0x20 only) at both ends
 Vista Pulito_Destra(Vista testo);
 Vista Sinistra(Vista testo, std::size_t n);  // the first n characters, or all

@@ -113,13 +113,25 @@ void CollegaElenco(const Programma& programma, Edita& edita) {
                                  });
 }
 
+// Whether it can't be made for the same reason as anything else in the firm's folder, which has been told.
+bool Manca_Come_Detto(const Programma& programma, const Percorso& cartella) {
+  const int errore = programma.disco.Crea_Cartella(cartella);
+  return errore != 0 && errore == programma.Errore_Cartella;
+}
+
 // Folders that later documents of the day write to; a failure is told, and the day can be keyed all the same.
 void CreaCartelle(Programma& programma) {
-  Crea_Cartella(programma, Unisci_Percorso(programma.Cartella_Anno, "CV_SI"));
-  Crea_Cartella(programma, Unisci_Percorso(programma.Cartella_Anno, "CV_NO"));
-  Crea_Cartella(programma, Unisci_Percorso(programma.Cartella_Dati, "_ReportLear"));
-  Crea_Cartella(programma, Unisci_Percorso(programma.Cartella_Dati, "XBanca"));
-  Cartella_Fatture(programma);
+  bool protetta = false;
+  for (const Percorso& cartella :
+       {Unisci_Percorso(programma.Cartella_Anno, "CV_SI"), Unisci_Percorso(programma.Cartella_Anno, "CV_NO"),
+        Unisci_Percorso(programma.Cartella_Dati, "_ReportLear"),
+        Unisci_Percorso(programma.Cartella_Dati, "XBanca")}) {
+    if (Manca_Come_Detto(programma, cartella))
+      protetta = true;
+    else
+      Crea_Cartella(programma, cartella);
+  }
+  if (!protetta) Cartella_Fatture(programma);
 }
 
 Testo MarchioFattura(Vista fat, char separatore) {

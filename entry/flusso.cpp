@@ -112,7 +112,7 @@ Testo AllergeniSuccessivo(Vista testo) {
 }
 
 bool DataDiLotto(Vista testo) {
-  if (testo.size() != 6 || testo.find_first_not_of("0123456789") != Vista::npos) return false;
+  if (!Tutte_Cifre(testo, 6)) return false;
   const auto due = [&](std::size_t i) { return (testo[i] - '0') * 10 + (testo[i + 1] - '0'); };
   const int giorno = due(4);
   return giorno >= 1 && giorno <= Giorni_Del_Mese(due(2), 2000 + due(0));

@@ -13,8 +13,6 @@ constexpr int importo = 0, numero = 1, data = 2;  // of Text1
 constexpr std::size_t lunghezza_riferimento = 25;
 constexpr std::size_t cifre_numero = 5;
 
-bool Cifra(char c) { return c >= '0' && c <= '9'; }
-
 CampoTesto& Campo(NotaAcc& nota, int indice) { return nota.Text1[static_cast<std::size_t>(indice)]; }
 
 // A reference already in the row: the number between its first blank and its first "-", the date behind.
@@ -26,14 +24,14 @@ void LeggiRiferimento(NotaAcc& nota, Vista riferimento) {
 }
 
 char CifraOSeparatore(const Programma& programma, Vista resta, char carattere) {
-  if (Cifra(carattere)) return carattere;
+  if (E_Cifra(carattere)) return carattere;
   const char separatore = programma.Separatore_Decimale;
   const bool marca = carattere == '.' || carattere == ',';
   return marca && resta.find(separatore) == Vista::npos ? separatore : '\0';
 }
 
 char CarattereData(const Programma& programma, NotaAcc& nota, char carattere) {
-  if (Cifra(carattere) || carattere == '/') return carattere;
+  if (E_Cifra(carattere) || carattere == '/') return carattere;
   const char lettera = Minuscola(carattere);
   if (lettera == 'i') Campo(nota, data).testo = Giorno_Prima(programma.Data_Giorno, "dd/mm/yyyy");
   if (lettera == 'o') Campo(nota, data).testo = programma.Data_Giorno;

@@ -145,8 +145,6 @@ bool Seconda_Statistica(const Programma& programma, int indice, const Pressione&
          Profilo_Ditta(programma.preferenze.Codice_Commissionario) == Profilo::Lagomar;
 }
 
-bool Cifra(char c) { return c >= '0' && c <= '9'; }
-
 char Separatore(const Programma& programma, Vista resta) {
   return resta.find(programma.Separatore_Decimale) == Vista::npos ? programma.Separatore_Decimale : '\0';
 }
@@ -230,12 +228,12 @@ char FiltraCarattere(const Programma& programma, const Edita& edita, int indice,
   switch (static_cast<CampoRiga>(indice + 1)) {
     case CampoRiga::Peso:
     case CampoRiga::SAnt:
-      return Cifra(carattere) ? carattere : Separatore(programma, resta);
+      return E_Cifra(carattere) ? carattere : Separatore(programma, resta);
     case CampoRiga::Colli:
     case CampoRiga::NCV:
-      return Cifra(carattere) ? carattere : '\0';
+      return E_Cifra(carattere) ? carattere : '\0';
     case CampoRiga::Prezzo:
-      if (Cifra(carattere) || carattere == 'c' || carattere == 'C' || carattere == '-') return carattere;
+      if (E_Cifra(carattere) || carattere == 'c' || carattere == 'C' || carattere == '-') return carattere;
       return Separatore(programma, resta);
     default:
       return carattere;

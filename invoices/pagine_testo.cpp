@@ -217,6 +217,13 @@ std::vector<Pagina_Da_Stampare> Pagine_Da_Stampare(const std::vector<Percorso>& 
   return pagine;
 }
 
+std::optional<Testo> Rileggi(const Programma& programma, const Percorso& file, Pagine_Mancate& mancate) {
+  int errore = 0;
+  auto contenuto = programma.disco.Leggi_Testo(file, &errore);
+  if (!contenuto) mancate.push_back({errore, file, true});
+  return contenuto;
+}
+
 void Nomina(Printer& printer, const Percorso& file, TipoFattura tipo) {
   const Dati_Nome dati = LeggiNome(Nome_File(file));
   printer.documento = {dati.data, Testo(GenereDocumento(tipo)), dati.numero, dati.codice};
@@ -259,35 +266,39 @@ Esito_File ScriviPagineTesto(const Programma& programma, const Percorso& cartell
   return {};
 }
 
-void StampaFileTesto(const Programma& programma, const Percorso& nome, TipoFattura tipo) {
+Pagine_Mancate StampaFileTesto(const Programma& programma, const Percorso& nome, TipoFattura tipo) {
   Printer& printer = Dispositivo(programma);
+  Pagine_Mancate mancate;
   for (const Percorso& file : File_Delle_Pagine(nome)) {
-    const auto contenuto = programma.disco.Leggi_Testo(file);
-    if (!contenuto) continue;  // told when it couldn't be written
+    const auto contenuto = Rileggi(programma, file, mancate);
+    if (!contenuto) continue;
     Nomina(printer, file, tipo);
     Prepara_Carattere(printer, corpo_grande);
     Disegna_Pagina(printer, *contenuto, 0, true);
     printer.EndDoc();
   }
+  return mancate;
 }
 
-void StampaDuePerFoglio(const Programma& programma, const std::vector<Percorso>& nomi, TipoFattura tipo,
-                        Corsa& corsa) {
+Pagine_Mancate StampaDuePerFoglio(const Programma& programma, const std::vector<Percorso>& nomi,
+                                  TipoFattura tipo, Corsa& corsa) {
   const std::vector<Pagina_Da_Stampare> pagine = Pagine_Da_Stampare(nomi);
   Printer& printer = Dispositivo(programma);
+  Pagine_Mancate mancate;
   for (std::size_t i = 0; i < pagine.size(); ++i) {
     const bool sotto = i % 2 == 1;
-    if (!sotto && pagine[i].prima && !corsa.Avanti()) return;
+    if (!sotto && pagine[i].prima && !corsa.Avanti()) break;
     if (!sotto) {
       printer.Orientation(Verticale);
       Due_Pause(programma);
       Nomina(printer, pagine[i].file, tipo);
     }
-    if (const auto contenuto = programma.disco.Leggi_Testo(pagine[i].file)) {
+    if (const auto contenuto = Rileggi(programma, pagine[i].file, mancate)) {
       Prepara_Carattere(printer, corpo_piccolo);
       Disegna_Pagina(printer, *contenuto, sotto ? static_cast<float>(printer.Height()) / 2 : 0, false);
     }
     if (sotto || i + 1 == pagine.size()) printer.EndDoc();
     if (pagine[i].ultima) corsa.Fatta();
   }
+  return mancate;
 }

@@ -30,10 +30,13 @@ Esito_File ScriviPagineTesto(const Programma& programma, const Percorso& cartell
 // What a document is called on its paper's file: "Fattura", "Nota di Accredito".
 Vista GenereDocumento(TipoFattura tipo);
 
+// Pages that couldn't be read again, and are missing on paper.
+using Pagine_Mancate = std::vector<Esito_File>;
+
 // Sends the pages of the document whose first page is `nome` to the printer, a sheet each. The orientation
 // must be set. Nothing for a name that isn't a document's.
-void StampaFileTesto(const Programma& programma, const Percorso& nome, TipoFattura tipo);
+Pagine_Mancate StampaFileTesto(const Programma& programma, const Percorso& nome, TipoFattura tipo);
 // The pages of these documents two to a sheet, upright, in the order given. A stopped run ends before a
 // sheet that begins with a document.
-void StampaDuePerFoglio(const Programma& programma, const std::vector<Percorso>& nomi, TipoFattura tipo,
-                        Corsa& corsa);
+Pagine_Mancate StampaDuePerFoglio(const Programma& programma, const std::vector<Percorso>& nomi,
+                                  TipoFattura tipo, Corsa& corsa);

@@ -1,5 +1,6 @@
 #include "invoices/stampa_fatture.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <initializer_list>
 #include <utility>
@@ -18,6 +19,7 @@
 namespace {
 
 constexpr Parole_Corsa documenti_interrotti{"Stampa interrotta", "documento", "documenti"};
+constexpr std::size_t pagine_dette = 5;  // of those missing on paper; more of them are only counted
 constexpr Vista rimasti = "I documenti della stampa precedente sono rimasti come erano.";
 
 Testo Unisci_Righe(std::initializer_list<Vista> righe) {
@@ -47,6 +49,7 @@ struct Lavoro {
   std::vector<Percorso> ListaFatture = {}, ListaNote = {};  // first pages, in list order
   std::vector<Documento_Fattura> spediti = {};  // of a carrier's run: drawn and filed once texts are safe
   Testo ultimo_cliente = {};                    // code of the one looked up last
+  Pagine_Mancate mancate = {};                  // on paper
   bool orientamento_detto = false;              // once in a run is enough
 };
 
@@ -128,6 +131,27 @@ void Di_Errore_Documenti(const Programma& programma, const Esito_File& esito) {
   Di_Errore_File(programma, esito, "I documenti non sono stati scritti.", prima);
 }
 
+// A sheet that doesn't come out is missed by nobody until the customer asks for it. False when some are
+// missing (told).
+bool Di_Pagine_Mancate(const Lavoro& lavoro) {
+  const Pagine_Mancate& mancate = lavoro.mancate;
+  if (mancate.empty()) return true;
+  const Testo cosa = mancate.size() == 1 ? "Una pagina non si è potuta rileggere: sulla carta manca."_t
+                                         : std::to_string(mancate.size()) +
+                                               " pagine non si sono potute rileggere: sulla carta mancano.";
+  Testo altre;
+  for (std::size_t i = 1; i < std::min(mancate.size(), pagine_dette); ++i)
+    altre.append(Testo_Percorso(mancate[i].file)).append("\n");
+  if (mancate.size() > pagine_dette) altre += "...\n";
+  Di_Errore_File(lavoro.programma, mancate.front(), cosa,
+                 altre + "Controllare il disco e ripetere la stampa.");
+  return false;
+}
+
+void Aggiungi_Mancate(Lavoro& lavoro, const Pagine_Mancate& altre) {
+  lavoro.mancate.insert(lavoro.mancate.end(), altre.begin(), altre.end());
+}
+
 // The day's files and report go; false when one of them couldn't (told).
 bool Cancella_Tutto(const Programma& programma, const Percorso& cartella) {
   Esito_File esito = CancellaFile(programma.disco, cartella, ModelloTutti);
@@ -202,11 +226,11 @@ void Gira_In_Orizzontale(const Programma& programma) {
   Due_Pause(programma);
 }
 
-void Stampa_Grandi(const Lavoro& lavoro, Corsa& corsa) {
+void Stampa_Grandi(Lavoro& lavoro, Corsa& corsa) {
   Gira_In_Orizzontale(lavoro.programma);
   for (const Percorso& nome : lavoro.ListaFatture) {
     if (!corsa.Avanti()) return;
-    StampaFileTesto(lavoro.programma, nome, TipoFattura::Fattura);
+    Aggiungi_Mancate(lavoro, StampaFileTesto(lavoro.programma, nome, TipoFattura::Fattura));
     corsa.Fatta();
   }
 }
@@ -270,13 +294,13 @@ bool Esegui(Programma& programma, Stampa_Fatture& stampa, Testo& interrotta) {
   Mostra_Titolo(programma, stampa, "Prepara file transazioni con vet_report");
   if (stampa.spedizione) scritti = Scrivi_Registri(lavoro) && scritti;
   if (stampa.scelte.Paginax2) {
-    StampaDuePerFoglio(programma, lavoro.ListaFatture, TipoFattura::Fattura, carta);
-    StampaDuePerFoglio(programma, lavoro.ListaNote, TipoFattura::Nota, carta);
+    Aggiungi_Mancate(lavoro, StampaDuePerFoglio(programma, lavoro.ListaFatture, TipoFattura::Fattura, carta));
+    Aggiungi_Mancate(lavoro, StampaDuePerFoglio(programma, lavoro.ListaNote, TipoFattura::Nota, carta));
   }
   if (carta.Fermata())
     interrotta =
         Unisci_Righe({carta.Testo_Fermata(documenti_interrotti), "Su disco i documenti sono stati scritti."});
-  return scritti;
+  return Di_Pagine_Mancate(lavoro) && scritti;
 }
 
 // The document to its files, and to the printer for each copy.
@@ -296,11 +320,12 @@ bool Stampa_Una(Programma& programma, Stampa_Fatture& stampa, TipoFattura tipo, 
     return false;
   }
   const auto& lista = tipo == TipoFattura::Fattura ? lavoro.ListaFatture : lavoro.ListaNote;
-  for (int copia = 0; stampa.scelte.Stampale && copia < stampa.scelte.copie; ++copia) {
+  const int copie = stampa.scelte.Stampale ? stampa.scelte.copie : 0;
+  for (int copia = 0; copia < copie && lavoro.mancate.empty(); ++copia) {
     Gira_In_Orizzontale(programma);
-    for (const Percorso& nome : lista) StampaFileTesto(programma, nome, tipo);
+    for (const Percorso& nome : lista) Aggiungi_Mancate(lavoro, StampaFileTesto(programma, nome, tipo));
   }
-  return true;
+  return Di_Pagine_Mancate(lavoro);
 }
 
 void Mostra_Cartella(const Programma& programma, const Percorso& cartella) {

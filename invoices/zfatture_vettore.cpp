@@ -39,11 +39,6 @@ constexpr Comando_Spedizione comandi[] = {
     {&C::Vettori, "Vettori"},
 };
 
-bool Di_Sole_Cifre(Vista codice) {
-  const Vista pulito = Pulito(codice);
-  return !pulito.empty() && std::ranges::all_of(pulito, AmmessoNelleSpese);
-}
-
 Testo Pulita(const CampoTesto& campo) { return Testo(Pulito(Senza_Separatori(campo.testo))); }
 
 }  // namespace
@@ -100,7 +95,7 @@ void PredefinitoSpedizione(ZFatture& zfatture, CampoTesto Campi_Spedizione::*cam
   (zfatture.spedizione.*campo).testo = dove->predefinito;
 }
 
-bool AmmessoNelleSpese(char c) { return c >= '0' && c <= '9'; }
+bool AmmessoNelleSpese(char c) { return E_Cifra(c); }
 
 void PrendiVettore(ZFatture& zfatture, const Testo& mezzo, const std::array<Testo, 3>& vettore) {
   if (!zfatture.attiva) return;
@@ -116,7 +111,8 @@ void SelezionaRistoranti(Programma& programma, ZFatture& zfatture) {
 
 void SelezionaAlfanumerici(Programma& programma, ZFatture& zfatture) {
   if (!zfatture.attiva) return;
-  TogliFatture(programma, zfatture, [](const Voce_Fattura& voce) { return Di_Sole_Cifre(voce.Codice); });
+  TogliFatture(programma, zfatture,
+               [](const Voce_Fattura& voce) { return Tutte_Cifre(Pulito(voce.Codice)); });
 }
 
 void MostraEsclusi(Programma& programma, ZFatture& zfatture) {

@@ -257,7 +257,7 @@ Testo Solo_Numero(Vista testo, char separatore) {
   Testo numero;
   bool con_separatore = false;
   for (const char c : testo) {
-    if (c >= '0' && c <= '9') numero += c;
+    if (E_Cifra(c)) numero += c;
     if ((c != '.' && c != ',') || con_separatore) continue;
     numero += separatore;
     con_separatore = true;

@@ -27,8 +27,7 @@ Campi_Cliente Cliente_16(Vista riga) {
 
 // Zeros in front of a number; a text that is no number stays.
 Testo Riempi_Zeri(Vista testo, std::size_t cifre) {
-  const bool numero = !testo.empty() && testo.find_first_not_of("0123456789") == Vista::npos;
-  return numero ? Pad_Sinistra(testo, cifre, '0') : Testo(testo);
+  return Tutte_Cifre(testo) ? Pad_Sinistra(testo, cifre, '0') : Testo(testo);
 }
 
 // A line of the bank's register in the form of the customer file. The province is always Venice's: the towns
@@ -99,7 +98,7 @@ void Leggi_Clienti(Programma& programma) {
     return Riempi_Clienti(programma, *contenuto, Cliente_16);
   if (const auto registro = Leggi_File_Lista(programma, nomi_file::Clienti_Banca)) {
     const Testo convertito = Converti_Registro_Banca(*registro);
-    Salva_File_Lista(programma, nomi_file::Clienti, convertito);
+    Semina_File_Lista(programma, nomi_file::Clienti, convertito);
     return Riempi_Clienti(programma, convertito, Cliente_32);
   }
   programma.Vet_Clienti = Seme_Clienti();

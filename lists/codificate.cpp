@@ -7,14 +7,16 @@
 namespace {
 
 // Reads one list, its file seeded first where it is missing. When the seed can't be written the built-in
-// lines are used all the same; the fault goes to `guasti`, for the operator.
+// lines are used all the same; the fault goes to `guasti`, for the operator, unless it is that of the whole
+// folder, which has been told.
 void Leggi(Programma& programma, const Lista_Codificata& lista, std::vector<Guasto_Lista>& guasti) {
   auto& tabella = programma.*lista.tabella;
   const auto contenuto = Leggi_File_Lista(programma, lista.nome);
   if (!contenuto) {
     tabella = lista.seme();
     const int errore = Scrivi_File_Lista(programma, lista.nome, Contenuto_Voci(tabella));
-    if (errore != 0) guasti.push_back({errore, Percorso_Lista(programma, lista.nome)});
+    if (errore != 0 && errore != programma.Errore_Cartella)
+      guasti.push_back({errore, Percorso_Lista(programma, lista.nome)});
     return;
   }
   const auto righe = Righe(*contenuto);

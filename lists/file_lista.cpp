@@ -56,6 +56,14 @@ bool Salva_File_Lista(Programma& programma, Vista nome, Vista contenuto) {
   return false;
 }
 
+bool Semina_File_Lista(Programma& programma, Vista nome, Vista contenuto) {
+  const int errore = Scrivi_File_Lista(programma, nome, contenuto);
+  if (errore == 0) return true;
+  if (errore != programma.Errore_Cartella)
+    Mostra_Guasti(programma, {{errore, Percorso_Lista(programma, nome)}});
+  return false;
+}
+
 void Aggiungi_Campo(Testo& riga, Vista campo, bool con_tab) {
   constexpr Vista separatori("\r\n\0\t", 4);
   const Vista esclusi = con_tab ? separatori.substr(0, 3) : separatori;

@@ -27,6 +27,9 @@ std::optional<Testo> Leggi_File_Lista(Programma& programma, Vista nome);
 int Scrivi_File_Lista(Programma& programma, Vista nome, Vista contenuto);
 // The same, a failure told to the operator; false then.
 bool Salva_File_Lista(Programma& programma, Vista nome, Vista contenuto);
+// The same of what a missing list begins with: that nothing at all can be written in the firm's folder has
+// been told.
+bool Semina_File_Lista(Programma& programma, Vista nome, Vista contenuto);
 
 // Appends a field without the bytes that would split it, or its line, when read back; TABs stay on request.
 void Aggiungi_Campo(Testo& riga, Vista campo, bool con_tab = false);

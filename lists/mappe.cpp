@@ -267,8 +267,6 @@ Bersaglio Bersaglio_Da(const std::vector<Testo>& riga, const Foglio& foglio) {
 // "A083721 - Mediterraneo Adriatico": the code is what stands before the first "-".
 Vista Codice_Zona(Vista etichetta) { return Pulito(Fino_A(etichetta, '-')); }
 
-bool Cifra(char c) { return c >= '0' && c <= '9'; }
-
 // The FAO part of a zone's code, behind "A" and the ocean group, which differs between list and maps for the
 // Black Sea and the Baltic; empty for what is no catch zone.
 Vista Parte_Fao(Vista zona) {
@@ -348,7 +346,7 @@ int Bersaglio_Di_Zona(const Mappa_Zone& mappa, Vista zona) {
     const Vista parte = aree_intere ? Vista(bersaglio.numero) : Parte_Fao(bersaglio.zona);
     if (parte.size() <= lunghezza || !Inizia(cercata, parte)) continue;
     // 27.1 is not the beginning of 27.10; on the world map everything behind the area is a part of it
-    if (!aree_intere && cercata.size() > parte.size() && Cifra(cercata[parte.size()])) continue;
+    if (!aree_intere && cercata.size() > parte.size() && E_Cifra(cercata[parte.size()])) continue;
     trovato = static_cast<int>(i);
     lunghezza = parte.size();
   }

@@ -55,7 +55,7 @@ Testo Davanti_Alla_Chiave(const LedgerRow& riga, CampoRiga campo) {
   constexpr std::size_t cifre = 4;
   constexpr char dopo_le_cifre = '9' + 1;
   const Vista numero = riga[campo];
-  if (numero.size() <= cifre || numero.find_first_not_of("0123456789") != Vista::npos) return {};
+  if (numero.size() <= cifre || !Tutte_Cifre(numero)) return {};
   return Testo(numero.size() - cifre, dopo_le_cifre);
 }
 

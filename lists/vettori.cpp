@@ -21,5 +21,5 @@ bool Salva_Vettori(Programma& programma) {
 
 bool Scrivi_Vettori_Predefiniti(Programma& programma) {
   if (!Manca_Lista(programma, nomi_file::Vettori)) return true;
-  return Salva_File_Lista(programma, nomi_file::Vettori, Riga_Vettore_Predefinita());
+  return Semina_File_Lista(programma, nomi_file::Vettori, Riga_Vettore_Predefinita());
 }

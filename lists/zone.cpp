@@ -7,7 +7,7 @@ void Leggi_Zone(Programma& programma) {
   const auto contenuto = Leggi_File_Lista(programma, nomi_file::Zone);
   if (!contenuto) {
     tabella = Seme_Zone();
-    Salva_Zone(programma);
+    Semina_File_Lista(programma, nomi_file::Zone, Contenuto_Tabella(tabella));
     return;
   }
   tabella.clear();

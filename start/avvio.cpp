@@ -61,6 +61,7 @@ void Togli_Resti(const Programma& programma) {
 
 bool Controlla_Scrittura(Programma& programma) {
   const int errore = Errore_Scrittura_Cartella(programma);
+  programma.Errore_Cartella = errore;
   if (errore == 0) return true;
   programma.piattaforma.Messaggio("Nella cartella " + Testo_Percorso(programma.Cartella_Dati) +
                                   " non si può scrivere: i dati non verranno salvati\n"_t +
@@ -69,6 +70,7 @@ bool Controlla_Scrittura(Programma& programma) {
 }
 
 void Messaggio_Non_Scritto(Programma& programma, const Percorso& file, int errore) {
+  if (errore == programma.Errore_Cartella) return;  // told of the whole folder
   programma.piattaforma.Messaggio("Non si può scrivere il file\n"_t + Testo_Percorso(file) + "\n" +
                                   Testo_Errore(errore));
 }
@@ -98,11 +100,12 @@ void Prepara_Impostazioni(Programma& programma, bool scrivibile,
   const Percorso precedente = Nella_Cartella(programma, File_Ini_Precedente);
   if (programma.disco.Manca_File(programma.File_Ini) && programma.disco.Esiste_File(precedente)) {
     const int errore = programma.disco.Copia(precedente, programma.File_Ini);
-    if (errore != 0 && scrivibile) Messaggio_Non_Scritto(programma, programma.File_Ini, errore);
+    if (errore != 0) Messaggio_Non_Scritto(programma, programma.File_Ini, errore);
   }
   // Where nothing can be kept there is no sense in asking the firm's data.
+  // Cancelled, nothing is kept: an empty letterhead would bar that of an older firm.
   if (scrivibile && Serve_Primo_Avvio(programma))
-    Scrivi_Primo_Avvio(programma, chiedi().value_or(PrimoAvvio{}));
+    if (const auto dati = chiedi()) Scrivi_Primo_Avvio(programma, *dati);
 
   Leggi_Preferenze(programma);
   Limita_Per_Codice(programma);

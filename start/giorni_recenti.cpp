@@ -6,13 +6,9 @@ namespace {
 
 constexpr std::size_t cifre_anno = 4, cifre_giorno = 8;
 
-bool Cifre(Vista testo, std::size_t quante) {
-  return testo.size() == quante && testo.find_first_not_of("0123456789") == Vista::npos;
-}
-
 std::optional<Data> Giorno_Del_File(Vista nome) {
   const Vista cifre = Sinistra(nome, cifre_giorno);
-  return Cifre(cifre, cifre_giorno) ? Leggi_Data(Data_Da_AAAAMMGG(cifre)) : std::nullopt;
+  return Tutte_Cifre(cifre, cifre_giorno) ? Leggi_Data(Data_Da_AAAAMMGG(cifre)) : std::nullopt;
 }
 
 }  // namespace
@@ -29,7 +25,7 @@ std::vector<Data> Giorni_Recenti(const Programma& programma, std::size_t quanti,
     return std::move(nomi).value_or(std::vector<Percorso>());
   };
   std::vector<Percorso> anni = prendi(programma.disco.Elenca_Cartelle(programma.Cartella_Dati));
-  std::erase_if(anni, [](const Percorso& anno) { return !Cifre(Testo_Percorso(anno), cifre_anno); });
+  std::erase_if(anni, [](const Percorso& anno) { return !Tutte_Cifre(Testo_Percorso(anno), cifre_anno); });
   std::ranges::reverse(anni);
   const Data oggi = programma.piattaforma.Oggi();
   std::vector<Data> giorni;

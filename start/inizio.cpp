@@ -122,10 +122,7 @@ bool Componi_Data(Programma& programma, B_Inizio& inizio) {
 }
 
 // A date is eight digits; a shorter year ("25", none) is a slip of the keys, not a day of the year 25.
-bool Otto_Cifre(Vista data) {
-  return data.size() == 8 &&
-         std::all_of(data.begin(), data.end(), [](char c) { return c >= '0' && c <= '9'; });
-}
+bool Otto_Cifre(Vista data) { return Tutte_Cifre(data, 8); }
 
 bool Della_Versione_Precedente(const Programma& programma) {
   return Numero_Data(programma.piattaforma.Oggi()) >= Primo_Giorno_ALFA3 &&

@@ -21,10 +21,6 @@ constexpr Vista mesi[] = {"Gennaio", "Febbraio",  "Marzo",   "Aprile",   "Maggio
                           "Agosto",  "Settembre", "Ottobre", "Novembre", "Dicembre", "Tutto"};
 constexpr int tutto_l_anno = 12;
 
-bool Tutte_Cifre(Vista testo) {
-  return !testo.empty() && testo.find_first_not_of("0123456789") == Vista::npos;
-}
-
 // ---- reading
 
 // The accounts of a month bear month, day and number in four digits each: MMDDNNNN.

@@ -119,12 +119,6 @@ void Stampa_Clienti(Programma& programma, RXcli& schermo) {
   Stampa_Righe(programma, foglio, schermo.titolo);
 }
 
-void Stampa_Barre(Programma& programma, RXcli& schermo) {
-  if (!schermo.attiva) return;
-  const auto in_corso = In_Corso(programma, schermo);
-  Stampa_Grafico(programma, schermo.grafico, schermo.titolo);
-}
-
 void Salva_Totali(Programma& programma, RXcli& schermo) {
   if (!schermo.attiva || !schermo.scegli_file) return;
   const auto in_corso = In_Corso(programma, schermo);

@@ -40,7 +40,6 @@ void CalcolaPerCliente(Programma& programma, RXcli& schermo, int ordina);
 void Scelto_Cliente(RXcli& schermo);
 
 void Stampa_Clienti(Programma& programma, RXcli& schermo);
-void Stampa_Barre(Programma& programma, RXcli& schermo);
 void Salva_Totali(Programma& programma, RXcli& schermo);  // into a file that is asked for
 
 Testo Riga_Cliente(const Totale_Cliente& totale, char separatore);

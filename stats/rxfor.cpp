@@ -263,12 +263,6 @@ void Stampa_Saldo(Programma& programma, RXFor& schermo) {
   Stampa_Righe(programma, foglio, schermo.titolo);
 }
 
-void Stampa_Barre(Programma& programma, RXFor& schermo) {
-  if (!schermo.attiva) return;
-  const auto in_corso = In_Corso(programma, schermo);
-  Stampa_Grafico(programma, schermo.grafico, schermo.titolo);
-}
-
 void Salva_Saldo(Programma& programma, RXFor& schermo) {
   if (!schermo.attiva || schermo.ListaSaldo.Numero() == 0) return;
   const auto in_corso = In_Corso(programma, schermo);

@@ -44,5 +44,4 @@ void Passo_Data(CampoTesto& campo, bool avanti);
 void Calcola_Saldo(Programma& programma, RXFor& schermo);
 
 void Stampa_Saldo(Programma& programma, RXFor& schermo);
-void Stampa_Barre(Programma& programma, RXFor& schermo);
 void Salva_Saldo(Programma& programma, RXFor& schermo);  // Statistiche/<da>_<a>.txt

@@ -13,8 +13,6 @@ constexpr std::size_t cifre_giorno = 8;
 constexpr Vista estensione = ".txt", segnaposto = "Modificare";
 constexpr std::size_t blocco_provvisorio = 4U << 20U;  // bytes gathered for one writing
 
-bool Tutte_Cifre(Vista testo) { return testo.find_first_not_of("0123456789") == Vista::npos; }
-
 bool Fra(Vista due_cifre, Vista minimo, Vista massimo) { return minimo <= due_cifre && due_cifre <= massimo; }
 
 Testo In_Chiave(const Totale& totale) { return totale.Fornitore + " - " + totale.Specie + " - "; }
@@ -46,7 +44,7 @@ std::optional<std::vector<Percorso>> File_Dell_Anno(const Programma& programma) 
 Testo Giorno_Del_File(const Percorso& nome) { return Testo(Sinistra(Nome_File(nome), cifre_giorno)); }
 
 bool In_Forma_AAAAMMGG(Vista testo) {
-  return testo.size() == cifre_giorno && Tutte_Cifre(testo) && Fra(testo.substr(4, 2), "01", "12") &&
+  return Tutte_Cifre(testo, cifre_giorno) && Fra(testo.substr(4, 2), "01", "12") &&
          Fra(testo.substr(6, 2), "01", "31");
 }
 
@@ -233,8 +231,11 @@ void Scansione::Annota(const Vendita& vendita) {
 }
 
 void Scansione::Svuota_Provvisorio() {
-  if (errore_ == 0 && !in_sospeso_.empty())
+  if (errore_ == 0 && !in_sospeso_.empty()) {
     errore_ = programma_.disco.Accoda_Provvisorio(scopo_.provvisorio, in_sospeso_);
+    // A part would be taken for the whole, and a full disk wants the room.
+    if (errore_ != 0) programma_.disco.Cancella(scopo_.provvisorio);
+  }
   in_sospeso_.clear();
 }
 

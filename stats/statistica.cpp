@@ -184,12 +184,6 @@ void Stampa_Fornitore(Programma& programma, Statistica& schermo) {
   Stampa(programma, schermo, Righe_Del_Fornitore(schermo, schermo.ListaFornitori.Scelta()), "courier new");
 }
 
-void Stampa_Barre(Programma& programma, Statistica& schermo) {
-  if (!schermo.attiva) return;
-  const auto in_corso = In_Corso(programma, schermo);
-  Stampa_Grafico(programma, schermo.grafico, schermo.titolo);
-}
-
 void Salva_Statistica(Programma& programma, Statistica& schermo) {
   if (!schermo.attiva || !schermo.scegli_file) return;
   const auto in_corso = In_Corso(programma, schermo);

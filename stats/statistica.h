@@ -37,7 +37,6 @@ void Scelto_Fornitore(Statistica& schermo);
 
 void Stampa_Statistica(Programma& programma, Statistica& schermo);  // the whole list
 void Stampa_Fornitore(Programma& programma, Statistica& schermo);   // the chosen supplier's lines
-void Stampa_Barre(Programma& programma, Statistica& schermo);       // the picture
 void Salva_Statistica(Programma& programma, Statistica& schermo);   // into a file that is asked for
 void Aiuto_Statistica(Programma& programma);
 

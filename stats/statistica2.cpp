@@ -119,12 +119,6 @@ void Stampa_Periodo(Programma& programma, Statistica2& schermo) {
   Stampa_Righe(programma, foglio, schermo.titolo);
 }
 
-void Stampa_Barre(Programma& programma, Statistica2& schermo) {
-  if (!schermo.attiva) return;
-  const auto in_corso = In_Corso(programma, schermo);
-  Stampa_Grafico(programma, schermo.grafico, schermo.titolo);
-}
-
 void Aiuto_Statistica2(Programma& programma) {
   programma.piattaforma.Messaggio(
       "Scrivere le due date nella forma aaaammgg e usare il bottone Applica\n"

@@ -36,7 +36,6 @@ void Aggiorna_Comandi(Statistica2& schermo);
 // list.
 void Applica_Periodo(Programma& programma, Statistica2& schermo);
 void Stampa_Periodo(Programma& programma, Statistica2& schermo);
-void Stampa_Barre(Programma& programma, Statistica2& schermo);
 void Aiuto_Statistica2(Programma& programma);
 
 Testo Titoli_Periodo();

@@ -109,6 +109,24 @@ TEST(Testo_Confronto, IniziaEContiene) {
   EXPECT_FALSE(Contiene("ab", "c"));
 }
 
+TEST(Testo_Cifre, SonoDaZeroANove) {
+  for (const char c : Tutti_I_Byte())
+    EXPECT_EQ(E_Cifra(c), Vista("0123456789").find(c) != Vista::npos) << static_cast<int>(c);
+}
+
+TEST(Testo_Cifre, TutteOQuante) {
+  for (const Vista testo : {"0", "9", "007", "20250314", "99999999999999999999"}) {
+    EXPECT_TRUE(Tutte_Cifre(testo)) << testo;
+    EXPECT_TRUE(Tutte_Cifre(testo, testo.size())) << testo;
+    EXPECT_FALSE(Tutte_Cifre(testo, testo.size() + 1)) << testo;
+    EXPECT_FALSE(Tutte_Cifre(testo, testo.size() - 1)) << testo;
+  }
+  for (const Vista testo : {"", " ", "7 ", " 7", "-7", "+7", "7,0", "7.0", "a", "0x10", "\xB2", "7\n"}) {
+    EXPECT_FALSE(Tutte_Cifre(testo)) << testo;
+    EXPECT_FALSE(Tutte_Cifre(testo, testo.size())) << testo;
+  }
+}
+
 TEST(Testo_Pezzi, PulitoToglieSoloGliSpazi) {
   EXPECT_EQ(Pulito("  a b  "), "a b");
   EXPECT_EQ(Pulito("\ta\r\n "), "\ta\r\n");

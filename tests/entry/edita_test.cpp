@@ -33,6 +33,28 @@ TEST(Apertura, GiornoSenzaRighe) {
     EXPECT_TRUE(g.programma.disco.Esiste_Cartella(g.cartella / cartella)) << cartella;
 }
 
+// Where nothing can be written at all, which was told when the program started, the day's folders are no
+// news.
+TEST(Apertura, LeCartelleMancateSiDiconoSeNonSiSaGia) {
+  for (const bool gia_detto : {false, true}) {
+    Giornata_Di_Prova g;
+    g.programma.Errore_Cartella = gia_detto ? EROFS : 0;
+    g.programma.disco.guasto = [](const Percorso&) { return EROFS; };
+    g.Apri();
+    EXPECT_EQ(g.macchina.messaggi.size(), gia_detto ? 0U : 5U);
+  }
+}
+
+TEST(Apertura, UnaCartellaMancataPerAltroSiDice) {
+  Giornata_Di_Prova g;
+  g.programma.Errore_Cartella = EROFS;
+  g.programma.disco.guasto = [](const Percorso& p) { return p.filename() == "XBanca" ? EIO : 0; };
+  g.Apri();
+  ASSERT_EQ(g.macchina.messaggi.size(), 1U);
+  EXPECT_TRUE(Contiene(g.macchina.messaggi[0], "XBanca"));
+  EXPECT_TRUE(g.programma.disco.Esiste_Cartella(g.cartella / "2025_fat/20250314"));
+}
+
 TEST(Apertura, GiornoConRighe) {
   Giornata_Di_Prova g;
   g.programma.Vet_Tabella.righe = {g.RigaDelGiorno(1, "Trattoria Lido", "00124"),

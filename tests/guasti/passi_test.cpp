@@ -102,6 +102,11 @@ TEST_P(Guasti, AdOgniChiamata) {
   }
 }
 
+// Lists of tests, and faults, name it.
+TEST(Salvataggio, SiStampaColSuoNome) {
+  EXPECT_EQ(testing::PrintToString(Salvataggi().front()), Salvataggi().front().nome);
+}
+
 INSTANTIATE_TEST_SUITE_P(Salvataggi, Guasti, testing::ValuesIn(Salvataggi()),
                          [](const auto& caso) { return std::string(caso.param.nome); });
 

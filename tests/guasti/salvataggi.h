@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <ostream>
 #include <span>
 
 #include "tests/guasti/scena.h"
@@ -20,5 +21,7 @@ struct Salvataggio {
   // afterwards.
   bool cambia_le_righe = false;
 };
+
+inline void PrintTo(const Salvataggio& salvataggio, std::ostream* dove) { *dove << salvataggio.nome; }
 
 std::span<const Salvataggio> Salvataggi();

@@ -379,6 +379,83 @@ TEST_F(Stampe_Fatture, SoloIFileDeiDocumentiVannoSuCarta) {
   EXPECT_THAT(registro.righe, IsEmpty());
 }
 
+// A page that went to the disk and doesn't come back from it is missing on paper, and nobody would know.
+struct Pagina_Non_Riletta : Stampe_Fatture {
+  // The second customer's page, as soon as it is written.
+  void Guasta() const {
+    const Percorso file = cartella / "2025_fat/20250314" / tre_documenti[2];
+    if (!std::filesystem::is_regular_file(file)) return;
+    std::filesystem::remove(file);
+    std::filesystem::create_symlink("/proc/self/mem", file);  // is there, and reads as an error
+  }
+  Testo Detta() const {
+    return "Una pagina non si è potuta rileggere: sulla carta manca.\nErrore 5: "_t + Testo_Errore(EIO) +
+           "\n" + Testo_Percorso(cartella / "2025_fat/20250314" / tre_documenti[2]) +
+           "\nControllare il disco e ripetere la stampa.";
+  }
+};
+
+TEST_F(Pagina_Non_Riletta, UnaPerFoglio) {
+  stampa.scelte = {.Tutte = true, .Stampale = true};
+  macchina.fra_le_unita = [this] { Guasta(); };
+  EXPECT_FALSE(Esegui());
+  EXPECT_THAT(macchina.messaggi, ElementsAre(Detta()));
+  EXPECT_THAT(Documenti_Stampati(), SizeIs(1));
+}
+
+TEST_F(Pagina_Non_Riletta, DuePerFoglio) {
+  stampa.scelte = {.Tutte = true, .Stampale = true, .Paginax2 = true};
+  stampa.titolo = [this](const Testo& titolo) {
+    if (titolo == "Prepara i report...") Guasta();
+  };
+  EXPECT_FALSE(Esegui());
+  EXPECT_THAT(macchina.messaggi, ElementsAre(Detta()));
+  EXPECT_THAT(Documenti_Stampati(), SizeIs(2));
+  EXPECT_THAT(registro.righe, Contains(HasSubstr("FATTURA N.00127")));
+  EXPECT_THAT(registro.righe, Not(Contains(HasSubstr("FATTURA N.00128"))));
+}
+
+TEST_F(Pagina_Non_Riletta, DiTanteSiDiconoLePrime) {
+  for (int n = 0; n < 7; ++n) {
+    const Testo codice = "0020" + std::to_string(n), numero = "0020" + std::to_string(n);
+    Vendi(codice, "10", codice, "");
+    stampa.fatture.push_back({codice, "Cliente", codice, numero});
+  }
+  stampa.scelte = {.Tutte = true, .Stampale = true, .Paginax2 = true};
+  stampa.titolo = [this](const Testo& titolo) {
+    if (titolo != "Prepara i report...") return;
+    for (const Testo& nome : File()) {
+      std::filesystem::remove(cartella / "2025_fat/20250314" / nome);
+      std::filesystem::create_directory(cartella / "2025_fat/20250314" / nome);
+    }
+  };
+  EXPECT_FALSE(Esegui());
+  ASSERT_FALSE(macchina.messaggi.empty());
+  EXPECT_THAT(macchina.messaggi.back(),
+              StartsWith("10 pagine non si sono potute rileggere: sulla carta mancano.\n"));
+  EXPECT_THAT(Righe(macchina.messaggi.back()), SizeIs(2 + 5 + 2));
+  EXPECT_THAT(macchina.messaggi.back(), HasSubstr("\n...\nControllare il disco e ripetere la stampa."));
+}
+
+TEST_F(Pagina_Non_Riletta, UnDocumentoDaSolo) {
+  stampa.scelte = {.Stampale = true, .copie = 3};
+  macchina.risposte = {true};
+  // The sheet is turned when the page is written, before it is read.
+  struct Girata : Registratore {
+    using Registratore::Registratore;
+    std::function<void()> durante;
+    void Orienta(int orientamento) override {
+      durante();
+      Registratore::Orienta(orientamento);
+    }
+  } girata{macchina.stampante, registro};
+  girata.durante = [this] { Guasta(); };
+  macchina.dispositivo = &girata;
+  EXPECT_FALSE(StampaVoce(programma, stampa, TipoFattura::Fattura, stampa.fatture[1]));
+  EXPECT_THAT(macchina.messaggi, ElementsAre(Detta()));
+  EXPECT_THAT(Documenti_Stampati(), IsEmpty());
+}
+
 // ---- one document
 
 TEST_F(Stampe_Fatture, SenzaStampaIlDoppioClicApreLaCartella) {

@@ -91,6 +91,16 @@ TEST_P(Lista_Codificata_Prova, ColDiscoPienoSiUsanoLeVociESiDice) {
   EXPECT_THAT(macchina.messaggi, ElementsAre(Errore_Su(GetParam().nome)));
 }
 
+// Where nothing can be written at all, which was told when the program started, a list that can't be kept is
+// no news.
+TEST_P(Lista_Codificata_Prova, QuelloCheSiSaGiaNonSiRidice) {
+  Disco_Pieno(GetParam().nome);
+  programma.Errore_Cartella = ENOSPC;
+  Leggi();
+  EXPECT_THAT(Tabella(), SizeIs(GetParam().voci));
+  EXPECT_THAT(macchina.messaggi, IsEmpty());
+}
+
 INSTANTIATE_TEST_SUITE_P(Liste, Lista_Codificata_Prova, testing::ValuesIn(casi), [](const auto& caso) {
   Testo nome(caso.param.nome.substr(6));
   return nome.substr(0, nome.find('.'));

@@ -200,6 +200,16 @@ TEST_F(Zone, ColDiscoPienoLeZoneValgonoInMemoria) {
   EXPECT_THAT(macchina.messaggi, ElementsAre(Errore_Su(nomi_file::Zone)));
 }
 
+TEST_F(Zone, CheNienteSiPuoScrivereNonSiRidice) {
+  Disco_Pieno(nomi_file::Zone);
+  programma.Errore_Cartella = ENOSPC;
+  Leggi_Zone(programma);
+  EXPECT_THAT(programma.Vet_Zone, SizeIs(83));
+  EXPECT_THAT(macchina.messaggi, IsEmpty());
+  EXPECT_FALSE(Salva_Zone(programma));  // a change that isn't kept is news
+  EXPECT_THAT(macchina.messaggi, ElementsAre(Errore_Su(nomi_file::Zone)));
+}
+
 TEST_F(Zone, SalvareLasciaFuoriLeRigheSenzaEtichetta) {
   programma.Vet_Zone = {{"A1", "x"}, {"", "y"}};
   ASSERT_TRUE(Salva_Zone(programma));

@@ -20,7 +20,7 @@ struct Copia {
   const char* a;   // below the firm
 };
 
-constexpr std::array<Copia, 12> copie = {{{"stampe_macro/PREDEF", "PREDEF"},
+constexpr std::array<Copia, 13> copie = {{{"stampe_macro/PREDEF", "PREDEF"},
                                           {"stampe_macro/PREDEF_FOR", "PREDEF_FOR"},
                                           {"statistiche/2025", "2025"},
                                           {"controllo_cv/CV_NO", "2025/CV_NO"},
@@ -28,6 +28,7 @@ constexpr std::array<Copia, 12> copie = {{{"stampe_macro/PREDEF", "PREDEF"},
                                           {"lotti/lista.txt", "LottiPredeiniti.txt"},
                                           {"privacy/privacy.txt", "privacy.txt"},
                                           {"strumenti/CopiaDati.exe", "CopiaDati.exe"},
+                                          {"strumenti/CopiaDati.exe", "Velmara_2020_Descri.exe"},
                                           {"vettori_fatture/giorno.txt", "2025/20250310.txt"},
                                           {"conti/giorno.txt", "2025/20250312.txt"},
                                           {"fatture/giorno.txt", "2025/20250313.txt"},
@@ -61,10 +62,6 @@ std::string Impostazioni_A_Caso(Caso& caso) {
       righe += una.chiave + "=" + std::to_string(caso.fra(-3, 300)) + "\r\n";
   }
   return righe;
-}
-
-bool Numero_Di(const std::string& nome, std::size_t cifre) {
-  return nome.size() == cifre && nome.find_first_not_of("0123456789") == std::string::npos;
 }
 
 }  // namespace
@@ -138,9 +135,9 @@ std::string Difetto_Giorno(const Programma& programma) {
 
 std::string Difetto_Giorni(const Percorso& ditta) {
   for (const auto& anno : fs::directory_iterator(ditta)) {
-    if (!anno.is_directory() || !Numero_Di(anno.path().filename(), 4)) continue;
+    if (!anno.is_directory() || !Tutte_Cifre(anno.path().filename().string(), 4)) continue;
     for (const auto& giorno : fs::directory_iterator(anno)) {
-      if (!giorno.is_regular_file() || !Numero_Di(giorno.path().stem(), 8)) continue;
+      if (!giorno.is_regular_file() || !Tutte_Cifre(giorno.path().stem().string(), 8)) continue;
       if (const std::string difetto = Difetto_File(Leggi(giorno.path())); !difetto.empty())
         return giorno.path().filename().string() + ": " + difetto;
     }

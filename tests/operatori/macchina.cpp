@@ -1,8 +1,15 @@
 #include "tests/operatori/macchina.h"
 
 #include <array>
+#include <cerrno>
 
+#include <QEvent>
+#include <QEventLoop>
+
+#include "core/numeri.h"
+#include "lists/liste.h"
 #include "platform/finestra.h"
+#include "tools/finestra_generatore.h"
 
 namespace operatori {
 
@@ -29,6 +36,26 @@ constexpr std::array testi = {
     "dolore magna aliqua ut enim ad minim veniam quis nostrud exercitation ullamco laboris nisi ut aliquip "
     "ex "
     "ea commodo consequat duis aute irure dolor in reprehenderit in voluptate velit esse cillum dolore"};
+
+// Shows a window and lets events through until it is closed.
+class Fino_Alla_Chiusura : public QObject {
+ public:
+  explicit Fino_Alla_Chiusura(QWidget& finestra) {
+    finestra.installEventFilter(this);
+    finestra.show();
+    finestra.activateWindow();
+    giro_.exec();
+  }
+
+ protected:
+  bool eventFilter(QObject* oggetto, QEvent* evento) override {
+    if (evento->type() == QEvent::Hide) giro_.quit();
+    return QObject::eventFilter(oggetto, evento);
+  }
+
+ private:
+  QEventLoop giro_;
+};
 
 }  // namespace
 
@@ -66,7 +93,28 @@ void Macchina::Ridipingi() {
 
 bool Macchina::Avvia_Programma(const Percorso& file, const std::vector<Testo>& argomenti) {
   Piattaforma_Copione::Avvia_Programma(file, argomenti);
-  return docile || !caso_.una_su(3);
+  const bool parte = docile || !caso_.una_su(3);
+  if (parte && Inizia(Nome_File(file), "Velmara_2020_Descri")) Mostra_Generatore(file.parent_path());
+  return parte;
+}
+
+// Either in the folder of the firm, which the program still holds, or in one without a list, where one file
+// can't be written. In neither does it start the program by itself, which would go by the clock.
+void Macchina::Mostra_Generatore(const Percorso& ditta) {
+  Programma suo(*this);
+  suo.Cartella_Dati = ditta;
+  if (caso_.una_su(2)) {
+    suo.Cartella_Dati = ditta.parent_path() / "nuova";
+    std::filesystem::remove_all(suo.Cartella_Dati);
+    std::filesystem::create_directories(suo.Cartella_Dati);
+    suo.disco.guasto = [](const Percorso& file) { return Nome_File(file) == nomi_file::Zone ? ENOSPC : 0; };
+  }
+  suo.Separatore_Decimale = Separatore_Decimale();
+  suo.Separatore_Altro = Altro_Separatore(suo.Separatore_Decimale);
+  Finestra_Generatore finestra(suo);
+  finestra.setProperty("schermata", true);
+  finestra.setWindowModality(Qt::ApplicationModal);
+  Fino_Alla_Chiusura attesa(finestra);
 }
 
 }  // namespace operatori

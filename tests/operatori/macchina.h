@@ -13,7 +13,8 @@ namespace operatori {
 std::span<const char* const> Testi_Battuti();
 
 // A machine that answers at random, or, while the operator is on his way to a screen, always OK. Everything
-// it is asked or told goes to `mostrato`.
+// it is asked or told goes to `mostrato`. Of the programs that it starts only the list generator is there:
+// its window comes up, and whoever started it waits until it is closed.
 class Macchina : public giornata::Piattaforma_Copione {
  public:
   explicit Macchina(Caso& caso) : caso_(caso) {}
@@ -29,6 +30,8 @@ class Macchina : public giornata::Piattaforma_Copione {
   bool Avvia_Programma(const Percorso& file, const std::vector<Testo>& argomenti) override;
 
  private:
+  void Mostra_Generatore(const Percorso& ditta);
+
   Caso& caso_;
   int ridipinture_ = 0;
 };

@@ -57,10 +57,11 @@ INSTANTIATE_TEST_SUITE_P(Tutti, Operatori, testing::ValuesIn(Schermi().begin(), 
 TEST(Operatori_Tavola, NonMancaNessunaFinestra) {
   std::set<std::string> in_tavola, nei_sorgenti;
   for (const Schermo& schermo : Schermi()) in_tavola.insert(schermo.classe);
-  const std::regex forma("\nclass (\\w+Finestra) : public");
+  const std::regex forma("\nclass (\\w+Finestra|Finestra_\\w+) : public");
   for (const auto& stanza : fs::directory_iterator(progetto)) {
-    if (!fs::is_directory(stanza.path() / "screens")) continue;
-    for (const auto& voce : fs::directory_iterator(stanza.path() / "screens")) {
+    const Percorso finestre = stanza.path().filename() == "tools" ? stanza.path() : stanza.path() / "screens";
+    if (!fs::is_directory(finestre)) continue;
+    for (const auto& voce : fs::directory_iterator(finestre)) {
       std::ifstream flusso(voce.path());
       const std::string sorgente{std::istreambuf_iterator<char>(flusso), {}};
       for (std::sregex_iterator trovata(sorgente.begin(), sorgente.end(), forma), fine; trovata != fine;

@@ -8,6 +8,7 @@ std::span<const Schermo> Schermi() {
       {"Ditte", "DitteFinestra", {}, "", true},
       {"B_Inizio", "B_InizioFinestra", {}, "", true},
       {"xdisk", "XdiskFinestra", {"clic Command7"}, "", true},
+      {"Generatore", "Finestra_Generatore", {"clic Command10"}, "", true},
       {"Edita", "EditaFinestra", {}},
       {"Albero", "AlberoFinestra", {"clic ListaVoci"}},
       {"NotaAcc", "NotaAccFinestra", {"metti Text1(6) 1", "fuoco Text1(7)", "scrivi -"}},

@@ -89,10 +89,7 @@ std::variant<std::vector<Parola>, Errore_Riga> Parole(std::string_view riga) {
   }
 }
 
-bool Solo_Cifre(std::string_view testo) {
-  return !testo.empty() && testo.size() <= 9 &&
-         testo.find_first_not_of("0123456789") == std::string_view::npos;
-}
+bool Numero_Intero(std::string_view testo) { return testo.size() <= 9 && Tutte_Cifre(testo); }
 
 std::vector<std::string_view> Pezzi(std::string_view testo, std::string_view separatori) {
   std::vector<std::string_view> pezzi;
@@ -133,7 +130,7 @@ const std::array<Genere, 12> generi = {{
     {"<controllo>",
      [](const Parola& p) { return !p.testo.empty() && (p.virgolette || !p.testo.ends_with('.')); },
      "un nome, una didascalia tra virgolette, o FINESTRA.NOME"},
-    {"<numero>", [](const Parola& p) { return !p.virgolette && Solo_Cifre(p.testo); }, "un numero intero"},
+    {"<numero>", [](const Parola& p) { return !p.virgolette && Numero_Intero(p.testo); }, "un numero intero"},
     {"<percorso>", [](const Parola& p) { return Semplice(p) && Percorso_Interno(p.testo); },
      "un percorso dentro la cartella della ditta o di un volume"},
     {"<accanto>", [](const Parola& p) { return Semplice(p) && !p.testo.empty() && p.testo[0] != '/'; },
@@ -292,7 +289,8 @@ std::optional<Pressione> Leggi_Tasto(std::string_view nome) {
       pressione.tasto = tasto;
       return pressione;
     }
-  if (nome.size() < 2 || nome[0] != 'F' || nome[1] == '0' || !Solo_Cifre(nome.substr(1))) return std::nullopt;
+  if (nome.size() < 2 || nome[0] != 'F' || nome[1] == '0' || !Numero_Intero(nome.substr(1)))
+    return std::nullopt;
   const int numero = nome.size() == 2   ? nome[1] - '0'
                      : nome.size() == 3 ? (nome[1] - '0') * 10 + (nome[2] - '0')
                                         : 99;
@@ -304,7 +302,7 @@ std::optional<Pressione> Leggi_Tasto(std::string_view nome) {
 std::optional<Data> Leggi_Giorno(std::string_view testo) {
   if (testo.size() != 10 || testo[4] != '-' || testo[7] != '-') return std::nullopt;
   for (const std::string_view pezzo : {testo.substr(0, 4), testo.substr(5, 2), testo.substr(8, 2)})
-    if (!Solo_Cifre(pezzo)) return std::nullopt;
+    if (!Numero_Intero(pezzo)) return std::nullopt;
   const Testo italiana =
       Testo(testo.substr(8, 2)).append("/").append(testo.substr(5, 2)).append("/").append(testo.substr(0, 4));
   return Leggi_Data(italiana);

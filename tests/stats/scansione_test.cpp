@@ -137,6 +137,22 @@ TEST_F(Scansioni, IlFileTemporaneoHaUnaLineaPerRiga) {
   EXPECT_EQ(cartella.Contenuto("zzzztemp.txt"), "Mare Blu\tOrata\t12,50\t9,80\r\nB\t\tx\t-1\r\n");
 }
 
+// It is written in parts: half of it would be taken for the whole, and a full disk wants the room.
+TEST_F(Scansioni, DelFileTemporaneoNonRestaUnaParte) {
+  Testo giorno;
+  for (const char nome : {'a', 'b', 'c'}) giorno += Corta(Testo(5U << 20U, nome), "Orata", "1", "2") + "\r\n";
+  Metti_File("20250310.txt", giorno);
+  int parti = 0;
+  programma.disco.guasto = [&](const Percorso& file) {
+    return file.filename() == "zzzztemp.txt" && ++parti == 2 ? ENOSPC : 0;
+  };
+  Scansione scansione(programma, {.per_specie = true, .provvisorio = cartella / "zzzztemp.txt"});
+  EXPECT_TRUE(scansione.Leggi_Giorno(cartella / "2025" / "20250310.txt"));
+  EXPECT_EQ(scansione.Chiudi(), ENOSPC);
+  EXPECT_EQ(cartella.Contenuto("zzzztemp.txt").substr(0, 8), "(manca)");
+  EXPECT_EQ(scansione.Prendi_Totali().size(), 3U);
+}
+
 TEST_F(Scansioni, UnGiornoVuotoDaNessunoNelFileTemporaneo) {
   EXPECT_THAT(Leggi("", {.per_specie = true, .provvisorio = cartella / "zzzztemp.txt"}),
               ElementsAre("Nessuno|nulla|0|0|1"));
