@@ -35,8 +35,8 @@ Finestra_Generatore::Finestra_Generatore(Programma& programma)
     : programma_(programma),
       Messaggio_(new QLabel(this)),
       ListaFile_(Elenco_Di(this)),
-      Avvia_(Bottone_Comodo(QStringLiteral("Avvia"), QStringLiteral("&Avvia Velmara"), this)),
       Riprova_(Bottone_Comodo(QStringLiteral("Riprova"), QStringLiteral("&Riprova"), this)),
+      Avvia_(Bottone_Comodo(QStringLiteral("Avvia"), QStringLiteral("&Avvia Velmara"), this)),
       Chiudi_(Bottone_Comodo(QStringLiteral("Chiudi"), QStringLiteral("&Chiudi"), this)) {
   setObjectName(QStringLiteral("Generatore"));
   setWindowTitle(QStringLiteral("Generazione delle liste"));
@@ -52,8 +52,8 @@ Finestra_Generatore::Finestra_Generatore(Programma& programma)
   auto* bottoni = new QHBoxLayout;
   bottoni->addWidget(Riprova_);
   bottoni->addStretch();
-  bottoni->addWidget(Chiudi_);
   bottoni->addWidget(Avvia_);
+  bottoni->addWidget(Chiudi_);
   auto* pagina = new QVBoxLayout(this);
   const int margine = QFontMetrics(Carattere(punti_normali)).height();
   pagina->setContentsMargins(margine, margine, margine, margine);

@@ -29,5 +29,5 @@ class Finestra_Generatore : public QWidget {
   QTimer battito_;
   QLabel* Messaggio_;
   QTreeWidget* ListaFile_;
-  QPushButton *Avvia_, *Riprova_, *Chiudi_;
+  QPushButton *Riprova_, *Avvia_, *Chiudi_;
 };

@@ -40,6 +40,7 @@
 #include "stats/screens/statistica_finestra.h"
 #include "tests/aspetto/banco.h"
 #include "tests/aspetto/regole.h"
+#include "tools/finestra_generatore.h"
 #include "transfers/screens/sceltafile_finestra.h"
 #include "transfers/screens/xdisk_finestra.h"
 
@@ -167,6 +168,7 @@ const Voce finestre[] = {
      [](Banco& b) { return Fai<XdiskFinestra>(b.programma, ModoCopia::COPIA_IN, b.cartella.percorso); }},
     {"Scelta_File", [](Banco& b) { return Fai<SceltaFileFinestra>(b.programma, Vista("zzzz.txt")); }},
     {"Primo_Avvio", [](Banco& b) { return Fai<PrimoAvvioFinestra>(b.macchina, ','); }},
+    {"Generatore", Di_Programma<Finestra_Generatore>},
     {"Scelta_Ditta", [](Banco& b) { return Fai<DitteFinestra>(b.cartella.percorso, b.cartella.percorso); }},
 };
 
