@@ -17,6 +17,7 @@ constexpr int righe_massime = std::numeric_limits<std::int16_t>::max();  // row 
 // row.
 constexpr std::size_t righe_in_piu = 1000;
 
+constexpr Vista numeri_precedenti = "ncv.txt";  // of the firms' older program
 constexpr Vista intestazione_ncv = "Ultimo numero Conto Vendita,DDT, Nota Accredito, Fattura";
 // A new file's heading leaves the DDT out, though its number stands there: so the firms' files begin.
 constexpr Vista intestazione_ncv_nuova = "Ultimo numero Conto Vendita, Nota Accredito, Fattura";
@@ -208,6 +209,12 @@ void Leggi_Ultimi_Numeri(Programma& programma) {
   int errore = 0;
   const auto contenuto = programma.disco.Leggi_Testo(File_Numeri(programma), &errore);
   if (errore == ENOENT) {
+    // The copy of an older firm's numbers has failed, which has been told. Begun anew, all would be given
+    // twice.
+    if (programma.disco.Esiste_File(Unisci_Percorso(programma.Cartella_Dati, numeri_precedenti))) {
+      programma.Numeri_Ignoti = true;
+      return;
+    }
     if (const int scritto = Scrivi_Numeri(programma, intestazione_ncv_nuova))
       Di_Errore_Salvataggio(programma, scritto);
     return;
@@ -237,11 +244,15 @@ bool Salva_Ultimi_Numeri(Programma& programma) {
   return errore == 0;
 }
 
-Percorso Cartella_Fatture(Programma& programma) {
+Percorso Percorso_Fatture(const Programma& programma) {
   const Vista giorno = programma.Data_Giorno;  // dd/mm/yyyy
   const Testo nome = Testo(Da(giorno, 7)).append(Da(giorno, 4).substr(0, 2)).append(Sinistra(giorno, 2));
   const Percorso anno = Unisci_Percorso(programma.Cartella_Dati, programma.Anno_Lavoro + "_fat");
-  const Percorso cartella = Unisci_Percorso(anno, nome);
+  return Unisci_Percorso(anno, nome);
+}
+
+Percorso Cartella_Fatture(Programma& programma) {
+  const Percorso cartella = Percorso_Fatture(programma);
   Crea_Cartella(programma, cartella);
   return cartella;
 }

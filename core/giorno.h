@@ -22,7 +22,8 @@ void Leggi_Ultimi_Numeri(Programma& programma);  // seeds a missing file
 // False when the file couldn't be written (told to the operator).
 bool Salva_Ultimi_Numeri(Programma& programma);
 
-// The folder of the day's invoice files, made if needed.
+// The folder of the day's invoice files; the second makes it if needed.
+Percorso Percorso_Fatture(const Programma& programma);
 Percorso Cartella_Fatture(Programma& programma);
 
 // After a question, overwrites and deletes the .dat files of the year `anno`; Modo_Dat goes off in any case.

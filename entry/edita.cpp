@@ -121,17 +121,11 @@ bool Manca_Come_Detto(const Programma& programma, const Percorso& cartella) {
 
 // Folders that later documents of the day write to; a failure is told, and the day can be keyed all the same.
 void CreaCartelle(Programma& programma) {
-  bool protetta = false;
   for (const Percorso& cartella :
        {Unisci_Percorso(programma.Cartella_Anno, "CV_SI"), Unisci_Percorso(programma.Cartella_Anno, "CV_NO"),
         Unisci_Percorso(programma.Cartella_Dati, "_ReportLear"),
-        Unisci_Percorso(programma.Cartella_Dati, "XBanca")}) {
-    if (Manca_Come_Detto(programma, cartella))
-      protetta = true;
-    else
-      Crea_Cartella(programma, cartella);
-  }
-  if (!protetta) Cartella_Fatture(programma);
+        Unisci_Percorso(programma.Cartella_Dati, "XBanca"), Percorso_Fatture(programma)})
+    if (!Manca_Come_Detto(programma, cartella)) Crea_Cartella(programma, cartella);
 }
 
 Testo MarchioFattura(Vista fat, char separatore) {

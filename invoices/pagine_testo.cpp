@@ -285,15 +285,17 @@ Pagine_Mancate StampaDuePerFoglio(const Programma& programma, const std::vector<
   const std::vector<Pagina_Da_Stampare> pagine = Pagine_Da_Stampare(nomi);
   Printer& printer = Dispositivo(programma);
   Pagine_Mancate mancate;
+  bool foglio_vuoto = true;
   for (std::size_t i = 0; i < pagine.size(); ++i) {
     const bool sotto = i % 2 == 1;
     if (!sotto && pagine[i].prima && !corsa.Avanti()) break;
     if (!sotto) {
       printer.Orientation(Verticale);
       Due_Pause(programma);
-      Nomina(printer, pagine[i].file, tipo);
+      foglio_vuoto = true;
     }
     if (const auto contenuto = Rileggi(programma, pagine[i].file, mancate)) {
+      if (std::exchange(foglio_vuoto, false)) Nomina(printer, pagine[i].file, tipo);
       Prepara_Carattere(printer, corpo_piccolo);
       Disegna_Pagina(printer, *contenuto, sotto ? static_cast<float>(printer.Height()) / 2 : 0, false);
     }

@@ -40,7 +40,7 @@ bool Scrivi_Fornitori_Predefiniti(Programma& programma) {
   if (!Manca_Lista(programma, nomi_file::Fornitori)) return true;
   programma.piattaforma.Messaggio(Testo_Percorso(Percorso_Lista(programma, nomi_file::Fornitori)) +
                                   "....non trovato...\nScrivo il file di default... ");
-  return Semina_File_Lista(programma, nomi_file::Fornitori, Riga_Fornitore_Predefinita());
+  return Salva_File_Lista(programma, nomi_file::Fornitori, Riga_Fornitore_Predefinita());
 }
 
 std::optional<Testo> Provvigione_Fornitore(const Programma& programma, Vista nome) {

@@ -100,7 +100,8 @@ class Stile_Con_Contorni : public QProxyStyle {
   void drawComplexControl(ComplexControl parte, const QStyleOptionComplex* opzioni, QPainter* pittore,
                           const QWidget* widget) const override {
     const auto* barra = qstyleoption_cast<const QStyleOptionSlider*>(opzioni);
-    if (parte != CC_ScrollBar || barra == nullptr || barra->rect.isEmpty())
+    if (parte != CC_ScrollBar || barra == nullptr || barra->rect.isEmpty() ||
+        styleHint(SH_ScrollBar_Transient, opzioni, widget) != 0)  // these fade in and out
       return QProxyStyle::drawComplexControl(parte, opzioni, pittore, widget);
     const double scala = pittore->device()->devicePixelRatioF();
     const QRect cursore = subControlRect(parte, opzioni, SC_ScrollBarSlider, widget);

@@ -70,7 +70,6 @@ bool Controlla_Scrittura(Programma& programma) {
 }
 
 void Messaggio_Non_Scritto(Programma& programma, const Percorso& file, int errore) {
-  if (errore == programma.Errore_Cartella) return;  // told of the whole folder
   programma.piattaforma.Messaggio("Non si può scrivere il file\n"_t + Testo_Percorso(file) + "\n" +
                                   Testo_Errore(errore));
 }
@@ -100,12 +99,11 @@ void Prepara_Impostazioni(Programma& programma, bool scrivibile,
   const Percorso precedente = Nella_Cartella(programma, File_Ini_Precedente);
   if (programma.disco.Manca_File(programma.File_Ini) && programma.disco.Esiste_File(precedente)) {
     const int errore = programma.disco.Copia(precedente, programma.File_Ini);
-    if (errore != 0) Messaggio_Non_Scritto(programma, programma.File_Ini, errore);
+    if (errore != 0 && scrivibile) Messaggio_Non_Scritto(programma, programma.File_Ini, errore);
   }
   // Where nothing can be kept there is no sense in asking the firm's data.
-  // Cancelled, nothing is kept: an empty letterhead would bar that of an older firm.
   if (scrivibile && Serve_Primo_Avvio(programma))
-    if (const auto dati = chiedi()) Scrivi_Primo_Avvio(programma, *dati);
+    Scrivi_Primo_Avvio(programma, chiedi().value_or(PrimoAvvio{}));
 
   Leggi_Preferenze(programma);
   Limita_Per_Codice(programma);

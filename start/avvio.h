@@ -11,7 +11,7 @@ enum class EsitoAvvio { Pronto, Fine };  // Fine: the program ends (another inst
 
 // `cartella` is the folder of the program file. The lock stays with the caller for the program's life.
 // `chiedi` shows the first-run dialog where the folder has no letterhead yet (before the settings are read,
-// so that the stall number is asked once); nothing when it was cancelled, and it is asked again next time.
+// so that the stall number is asked once); nothing when it was cancelled.
 struct PrimoAvvio;
 EsitoAvvio Avvia(Programma& programma, const Percorso& cartella, Blocco_Cartella& blocco,
                  const std::function<std::optional<PrimoAvvio>()>& chiedi);

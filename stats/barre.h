@@ -28,6 +28,7 @@ Testo Cifra(const Barra& barra, char separatore);  // "1.234,56 €"
 // On a page of its own, on the chosen printer as its paper lies. Bars are filled grey with a black outline,
 // those of amounts below zero are only outlined. `titolo` is the screen's caption.
 void Stampa_Grafico(Programma& programma, const Grafico& grafico, Testo& titolo);
+
 // The command of the screens that have one.
 template <class Schermo>
 void Stampa_Barre(Programma& programma, Schermo& schermo) {

@@ -47,8 +47,8 @@ class Scansione {
 
   // Adds the rows of a day file. False when it can't be read; that of a missing one isn't a fault.
   bool Leggi_Giorno(const Percorso& file);
-  // Writes what is still due to the temporary file; its errno, 0 for success. After a failure there is no
-  // such file.
+  // Writes what is still due to the temporary file; its errno, 0 for success. After a failure the
+  // file is deleted.
   int Chiudi();
 
   int Righe() const { return righe_; }

@@ -45,6 +45,17 @@ TEST(Apertura, LeCartelleMancateSiDiconoSeNonSiSaGia) {
   }
 }
 
+// An established firm on such a disk: only the folders of the new day are missing.
+TEST(Apertura, LaCartellaDelleFattureDiUnGiornoNuovoNonSiRidice) {
+  Giornata_Di_Prova g;
+  for (const char* nome : {"2025/CV_SI", "2025/CV_NO", "_ReportLear", "XBanca"})
+    std::filesystem::create_directories(g.cartella / nome);
+  g.programma.Errore_Cartella = EROFS;
+  g.programma.disco.guasto = [](const Percorso&) { return EROFS; };
+  g.Apri();
+  EXPECT_THAT(g.macchina.messaggi, testing::IsEmpty());
+}
+
 TEST(Apertura, UnaCartellaMancataPerAltroSiDice) {
   Giornata_Di_Prova g;
   g.programma.Errore_Cartella = EROFS;

@@ -415,6 +415,20 @@ TEST_F(Pagina_Non_Riletta, DuePerFoglio) {
   EXPECT_THAT(registro.righe, Not(Contains(HasSubstr("FATTURA N.00128"))));
 }
 
+// The sheet is called by what stands on it.
+TEST_F(Pagina_Non_Riletta, IlFoglioHaIlNomeDiQuelloCheCiSta) {
+  stampa.fatture.erase(stampa.fatture.begin());
+  Vendi("00300", "10", "00300", "");
+  stampa.fatture.push_back({"00300", "Cliente", "00300", "00300"});
+  stampa.scelte = {.Tutte = true, .Stampale = true, .Paginax2 = true};
+  stampa.titolo = [this](const Testo& titolo) {
+    if (titolo == "Prepara i report...") Guasta();
+  };
+  EXPECT_FALSE(Esegui());
+  EXPECT_THAT(Documenti_Stampati(), Contains(HasSubstr("00300")));
+  EXPECT_THAT(Documenti_Stampati(), Not(Contains(HasSubstr("00128"))));
+}
+
 TEST_F(Pagina_Non_Riletta, DiTanteSiDiconoLePrime) {
   for (int n = 0; n < 7; ++n) {
     const Testo codice = "0020" + std::to_string(n), numero = "0020" + std::to_string(n);

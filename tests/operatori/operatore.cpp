@@ -415,6 +415,7 @@ Testo Operatore::dati() {
 }
 
 void Operatore::controlla_testo(const Testo& testo, const Testo& titolo, const std::string& risposta) {
+  if (Contiene(testo, "durante il salvataggio")) salvataggio_fallito_ = true;
   scrivi("  \"" + In_Utf8(testo) + "\"" + (risposta.empty() ? "" : " -> " + risposta));
   if (macchina_.mostrati > testi_per_passo) difetto("il programma non smette di parlare");
   for (const Testo& uno : {testo, titolo})
@@ -434,14 +435,16 @@ void Operatore::controlla_carta() {
 }
 
 // An account is on paper: its number must be out on the disk, so that no other one gets it. By hand, numbers
-// are the operator's; an account that could not be numbered, which has been told, has none to give out.
+// are the operator's; an account that could not be numbered, which has been told, or that he has given the
+// sign for none, has none to give out.
 void Operatore::controlla_numero(Vista documento) {
   static constexpr Vista conto = " Conto Vendita ";
   const auto dove = documento.find(conto);
   if (dove == Vista::npos || Raggiungibile("Zgemmit")) return;
   const Testo numero(documento.substr(dove + conto.size(), 9));
   const auto stampato = std::strtol(numero.c_str(), nullptr, 10);
-  if (stampato == Senza_Numero_CV) return;
+  const bool senza = salvataggio_fallito_ || nei_campi_.contains(QString::number(Senza_Numero_CV));
+  if (stampato == Senza_Numero_CV && senza) return;
   if (const auto emesso = Ultimo_Conto(ditta_); emesso < stampato)
     difetto("stampato il conto " + std::to_string(stampato) + ", nel file l'ultimo e' " +
             std::to_string(emesso));

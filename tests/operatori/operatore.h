@@ -68,7 +68,8 @@ class Operatore : public QObject {
   std::vector<int> livelli_;  // of the event loop, of each step that still waits for a window it opened
   std::size_t passo_via_ = 0;
   int numero_ = 0, quieti_ = 0, lontano_ = 0, attese_ = 0, cammini_ = 0, giri_fermi_ = 0, di_fila_ = 0;
-  int errore_disco_ = 0;  // what writes fail with, 0 for a sound disk
+  int errore_disco_ = 0;              // what writes fail with, 0 for a sound disk
+  bool salvataggio_fallito_ = false;  // and told
   bool arrivato_mai_ = false, finito_ = false, avviata_ = false, altra_ditta_ = false;
   std::string rifiuto_;
   std::set<std::string> classi_;
