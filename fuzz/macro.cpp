@@ -46,6 +46,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t quan
     return 0;
   macchina.risposta = "7";
   tipo == Tipo_Macro::Fornitore ? MemorizzaFornitore(programma, edita) : MemorizzaSpecie(programma, edita);
+  if (Comincia_Con_La_Marca(ditta.Contenuto(nome))) return 0;  // is taken for the file's mark
   std::array<Testo, Num_Campi> prima;
   for (std::size_t i = 0; i < prima.size(); ++i) prima[i] = edita.Text1[i].testo;
   Esigi(EseguiMacro(programma, edita, tipo, "07") == 0, "la macro memorizzata si esegue");

@@ -73,8 +73,8 @@ void Riempi_Clienti(Programma& programma, Vista contenuto, Campi_Cliente (*leggi
   tabella.reserve(righe.size());
   for (const Vista riga : righe) {
     auto& nuova = tabella.emplace_back(leggi(riga));
-    // last in the order of nicknames
-    if (nuova[cliente::Soprannome].empty()) nuova[cliente::Soprannome] = "zz";
+    // Last in the order of nicknames. Blanks at the end of a line aren't trimmed, but are none all the same.
+    if (Pulito(nuova[cliente::Soprannome]).empty()) nuova[cliente::Soprannome] = "zz";
   }
 }
 

@@ -41,6 +41,11 @@ TEST_F(Clienti, ChiNonHaSoprannomeStaInFondo) {
   EXPECT_EQ(programma.Vet_Clienti[1][cliente::Soprannome], "zz");
   ASSERT_TRUE(Salva_Clienti(programma));
   EXPECT_THAT(Contenuto(nomi_file::Clienti), testing::HasSubstr("00001\tSenza\tzz\tC"));
+
+  // The blanks at the end of a line stay, and are no nickname: saved and read again, the list is the same.
+  Scrivi(nomi_file::Clienti, "00001\tSenza\t ");
+  Leggi_Clienti(programma);
+  EXPECT_EQ(programma.Vet_Clienti[0][cliente::Soprannome], "zz");
 }
 
 TEST_F(Clienti, UnaRigaCortaHaVuotiICampiCheMancano) {
