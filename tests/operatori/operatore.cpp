@@ -403,7 +403,11 @@ Testo Operatore::dati() {
   annota_campi();
   Testo tutto = Dati_Della_Ditta(radice_, programma());
   tutto += "\nRegistro\nAltra\nCHIAVETTA\n" + macchina_.appunti;
-  for (const char* testo : Testi_Battuti()) tutto.append("\n").append(Da_Utf8(testo));
+  constexpr std::size_t lunghezza_codice = 8;  // of a macro: what is keyed longer is cut to it
+  for (const char* testo : Testi_Battuti()) {
+    tutto.append("\n").append(Da_Utf8(testo));
+    tutto.append("\n").append(Sinistra(Senza_Separatori(Da_Utf8(testo)), lunghezza_codice));
+  }
   for (const QString& testo : nei_campi_) tutto.append("\n").append(Da_QString(testo));
   const auto widget = QApplication::allWidgets();
   for (const QWidget* uno : widget)
